@@ -1,0 +1,28 @@
+#include "astronomy/find_sunrise.h"
+
+namespace kelvaro {
+
+void RunSunriseFacade(clsSunrise& sunrise, OleDate date, const std::string& strNS, double latDeg, double latMin,
+                      const std::string& strEW, double lonDeg, double lonMin, std::int16_t daylightFlag,
+                      double zoneHours, const std::string& strZoneSide) {
+  sunrise.BirthDateTime = date;
+  // Only a positive degree count takes the sign: 0S30 stays 0 degrees and
+  // clsSunrise then reads the place as 0N30.
+  sunrise.CL_LatitudeDeg = (strNS == "S" && latDeg > 0) ? -latDeg : latDeg;
+  sunrise.CL_LongitudeDeg = (strEW == "W" && lonDeg > 0) ? -lonDeg : lonDeg;
+  sunrise.CL_LongitudeMin = lonMin;
+  sunrise.CL_LatitideMin = latMin;
+  sunrise.STZ = strZoneSide == "E" ? zoneHours : -zoneHours;
+  if (daylightFlag == 0) sunrise.DSAVE = 0;
+  sunrise.FnCalculate();
+}
+
+OleDate clsFindSunrise::FnFindSunrise(OleDate date, const std::string& strNS, double latDeg, double latMin,
+                                      const std::string& strEW, double lonDeg, double lonMin,
+                                      std::int16_t daylightFlag, double zoneHours, const std::string& strZoneSide) {
+  RunSunriseFacade(m_sunrise, date, strNS, latDeg, latMin, strEW, lonDeg, lonMin, daylightFlag, zoneHours,
+                   strZoneSide);
+  return m_sunrise.m_dateSunrise;
+}
+
+}  // namespace kelvaro
