@@ -1,1 +1,144 @@
-// being written
+#include "horoscope/horoscope_state.h"
+
+#include <cmath>
+
+#include "common/number_rules.h"
+
+namespace kelvaro {
+
+double HoroscopeState::LongitudeOf(Body body) const {
+  switch (body) {
+    case Body::Lagna: return LagnaLon;
+    case Body::Sun: return SunLon;
+    case Body::Moon: return MoonLon;
+    case Body::Mars: return MarsLon;
+    case Body::Mercury: return MercuryLon;
+    case Body::Jupiter: return JupiterLon;
+    case Body::Venus: return VenusLon;
+    case Body::Saturn: return SaturnLon;
+    case Body::Rahu: return RahuLon;
+    case Body::Ketu: return KetuLon;
+    case Body::Gulika: return GulikaLon;
+    case Body::Maandi: return MaandiLon;
+  }
+  return 0;
+}
+
+std::int16_t HoroscopeState::RasiOf(Body body) const {
+  switch (body) {
+    case Body::Lagna: return LagnaRasi;
+    case Body::Sun: return SunRasi;
+    case Body::Moon: return MoonRasi;
+    case Body::Mars: return MarsRasi;
+    case Body::Mercury: return MercuryRasi;
+    case Body::Jupiter: return JupiterRasi;
+    case Body::Venus: return VenusRasi;
+    case Body::Saturn: return SaturnRasi;
+    case Body::Rahu: return RahuRasi;
+    case Body::Ketu: return KetuRasi;
+    case Body::Gulika: return GulikaRasi;
+    case Body::Maandi: return MaandiRasi;
+  }
+  return 0;
+}
+
+const std::string& HoroscopeState::LongNameOf(Body body) const {
+  switch (body) {
+    case Body::Jupiter: return LongNames[6];  // Venus stands before Jupiter here
+    case Body::Venus: return LongNames[5];
+    case Body::Gulika: return GulikaLongName;
+    case Body::Maandi: return MaandiLongName;
+    default: return LongNames[static_cast<size_t>(body)];
+  }
+}
+
+HoroscopeState SampleChart() {
+  HoroscopeState s;
+  s.ChartName = "Velnesh";
+  s.BirthGender = "Male";
+  s.BirthDay = "14";
+  s.BirthMonth = "7";
+  s.BirthYear = "1965";
+  s.BirthHour = "14";
+  s.BirthMinute = "15";
+  s.BirthMoment = OleDate::FromParts(1965, 7, 14, 14, 15);
+  s.BirthCity = "Hyderabad (A.P)";
+  s.BirthCountry = "India";
+  s.LatDeg = 17;
+  s.LatMin = 20;
+  s.LatNS = "N";
+  s.LonDeg = 78;
+  s.LonMin = 30;
+  s.LonEW = "E";
+  s.TimeDiff = 5.5;
+  s.TimeDiffEW = "E";
+  return s;
+}
+
+std::int16_t RasiOfLongitude(double longitude, double division) {
+  double rasi = Int(longitude / division) + 1;
+  while (rasi > 12) rasi -= 12;
+  return CInt(rasi);
+}
+
+namespace {
+
+struct BodyNames {
+  const char* englishShort;
+  const char* englishLong;
+  const char* sanskritShort;
+  const char* sanskritLong;
+};
+
+// In the canonical body order.
+constexpr BodyNames kBodyNames[] = {
+    {"Asc", "Asc", "Lag", "Lagna"},        {"Sun", "Sun", "Rav", "Surya"},
+    {"Moo", "Moon", "Cha", "Chandra"},     {"Mar", "Mars", "Kuj", "Kuja"},
+    {"Mer", "Mercury", "Bud", "Budha"},    {"Jup", "Jupiter", "Gur", "Guru"},
+    {"Ven", "Venus", "Suk", "Sukra"},      {"Sat", "Saturn", "San", "Sani"},
+    {"Rah", "Rahu", "Rah", "Rahu"},        {"Ket", "Ketu", "Ket", "Ketu"},
+    {"Gul", "Gulika", "Gul", "Gulika"},    {"Maa", "Maandi", "Maa", "Maandi"},
+};
+
+struct RasiNameRow {
+  const char* englishFull;
+  const char* englishShort;
+  const char* sanskritFull;
+  const char* sanskritShort;
+};
+
+// "Sagitarius" and "Capricon" are the program's spellings.
+constexpr RasiNameRow kRasiNames[] = {
+    {"Aries", "Ari", "Mesha", "Mes"},       {"Taurus", "Tau", "Rishaba", "Ris"},
+    {"Gemini", "Gem", "Mithuna", "Mit"},    {"Cancer", "Can", "Kataka", "Kat"},
+    {"Leo", "Leo", "Simha", "Sim"},         {"Virgo", "Vir", "Kanya", "Kan"},
+    {"Libra", "Lib", "Tula", "Tul"},        {"Scorpio", "Sco", "Vrischika", "Vri"},
+    {"Sagitarius", "Sag", "Dhanus", "Dha"}, {"Capricon", "Cap", "Makara", "Mak"},
+    {"Aquarius", "Aqu", "Kumbha", "Kum"},   {"Pisces", "Pis", "Meena", "Mee"},
+};
+
+// LongNames order: Lagna, Sun, Moon, Mars, Mercury, Venus, Jupiter, Saturn, Rahu, Ketu.
+constexpr Body kLongNameOrder[] = {Body::Lagna, Body::Sun,     Body::Moon,   Body::Mars, Body::Mercury,
+                                   Body::Venus, Body::Jupiter, Body::Saturn, Body::Rahu, Body::Ketu};
+
+}  // namespace
+
+void LoadNamesForLanguage(HoroscopeState& state) {
+  bool english;
+  if (state.Language == "English") english = true;
+  else if (state.Language == "Sanskrit") english = false;
+  else return;
+  for (size_t i = 0; i < state.ShortNames.size(); ++i) {
+    state.ShortNames[i] = english ? kBodyNames[i].englishShort : kBodyNames[i].sanskritShort;
+  }
+  for (size_t i = 0; i < state.LongNames.size(); ++i) {
+    const BodyNames& n = kBodyNames[static_cast<size_t>(kLongNameOrder[i])];
+    state.LongNames[i] = english ? n.englishLong : n.sanskritLong;
+  }
+  for (size_t i = 0; i < 12; ++i) {
+    state.RasiNames[i] = english ? kRasiNames[i].englishFull : kRasiNames[i].sanskritFull;
+    state.RasiShortNames[i] = english ? kRasiNames[i].englishShort : kRasiNames[i].sanskritShort;
+  }
+}
+
+}  // namespace kelvaro

@@ -1,0 +1,46 @@
+#include "astronomy/find_planet_position.h"
+
+namespace kelvaro {
+
+void ClsFindPlanetPosition::SetInputs(OleDate date, const std::string& strNS, double latDeg, double latMin,
+                                      const std::string& strEW, double lonDeg, double lonMin, double zoneHours,
+                                      const std::string& strZoneSide, const std::string& ayanamsaType,
+                                      double zeroYear, double progress) {
+  ClsPlanet& p = planet_;
+  p.BirthDateTime = date;
+  p.CL_LatitudeDeg = (strNS == "S" && latDeg > 0) ? -latDeg : latDeg;
+  p.CL_LongitudeDeg = (strEW == "E" && lonDeg > 0) ? -lonDeg : lonDeg;  // East negative in the engine
+  p.CL_LongitudeMin = lonMin;
+  p.CL_LatitideMin = latMin;
+  if (ayanamsaType == "Custom") {
+    p.strProgressVal = progress;
+    p.strZeroYearVal = zeroYear;
+  } else {
+    p.strProgressVal = 0;
+    p.strZeroYearVal = 0;
+  }
+  p.TZone = strZoneSide == "W" ? -zoneHours : zoneHours;
+  p.DSAVE = 0;
+  p.AyType = ayanamsaType;
+}
+
+void ClsFindPlanetPosition::FindFixValues(OleDate date, const std::string& strNS, double latDeg, double latMin,
+                                          const std::string& strEW, double lonDeg, double lonMin, double zoneHours,
+                                          const std::string& strZoneSide, double /*daylightHours*/,
+                                          const std::string& ayanamsaType, double zeroYear, double progress) {
+  SetInputs(date, strNS, latDeg, latMin, strEW, lonDeg, lonMin, zoneHours, strZoneSide, ayanamsaType, zeroYear,
+            progress);
+  planet_.FnCalculate();
+}
+
+void ClsFindPlanetPosition::FindSunMoonValues(OleDate date, const std::string& strNS, double latDeg, double latMin,
+                                              const std::string& strEW, double lonDeg, double lonMin,
+                                              double zoneHours, const std::string& strZoneSide,
+                                              double /*daylightHours*/, const std::string& ayanamsaType,
+                                              double zeroYear, double progress) {
+  SetInputs(date, strNS, latDeg, latMin, strEW, lonDeg, lonMin, zoneHours, strZoneSide, ayanamsaType, zeroYear,
+            progress);
+  planet_.FnCalculateSunMoon();
+}
+
+}  // namespace kelvaro
