@@ -20,8 +20,6 @@ class clsFindSunrise {
                         const std::string& strEW, double lonDeg, double lonMin, std::int16_t daylightFlag,
                         double zoneHours, const std::string& strZoneSide);
 
-  const clsSunrise& SunriseEngine() const { return m_sunrise; }
-
  private:
   clsSunrise m_sunrise;
 };
