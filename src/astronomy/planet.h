@@ -136,6 +136,7 @@ class ClsPlanet {
     double inclination = 0;    // degrees
     double node = 0;           // degrees
     double semiMajorAxis = 0;  // astronomical units
+    double sinInclination = 0, cosInclination = 0;  // of inclination * deg
   };
   Elements Mercury, Venus, Mars, Jupiter, Saturn;
 
@@ -167,6 +168,8 @@ class ClsPlanet {
   } great_;
   bool greatDone_ = false;
   double greatT_ = 0;
+  std::array<double, 4> jupiterTerms_{};  // A, B, C, D of the Jupiter series
+  bool jupiterTermsDone_ = false;
   bool nutationDone_ = false;             // the nutation of this calculation's T is known
   double nutationT_ = 0;
 };

@@ -302,6 +302,7 @@ double SumSeries(const GreatTerm (&terms)[N], const std::array<double, kFactorCo
 void ClsPlanet::FnFindGreatArgs(bool /*saturn*/) {
   const double T = Centuries;
   if (greatDone_ && greatT_ == T) return;
+  jupiterTermsDone_ = false;
   GreatArgs& g = great_;
   g.nu = T / 5 + 0.1;
   g.P = FnReduceRadians(4.14473 + 52.9691 * T);
@@ -331,14 +332,18 @@ void ClsPlanet::FnFindGreatArgs(bool /*saturn*/) {
   greatT_ = T;
 }
 
+// Jupiter's series depend on T alone, and its two passes ask for them with the
+// same T: the sums are worked out once per calculation.
 void ClsPlanet::FnJupiterTerms() {
   FnFindGreatArgs(false);
-  const auto& f = great_.factor;
-  const double nu = great_.nu;
-  const double A = SumSeries(kJupiterA, f, nu);
-  const double B = SumSeries(kJupiterB, f, nu);
-  const double C = SumSeries(kJupiterC, f, nu);
-  const double D = SumSeries(kJupiterD, f, nu);
+  if (!jupiterTermsDone_) {
+    const auto& f = great_.factor;
+    const double nu = great_.nu;
+    jupiterTerms_ = {SumSeries(kJupiterA, f, nu), SumSeries(kJupiterB, f, nu), SumSeries(kJupiterC, f, nu),
+                     SumSeries(kJupiterD, f, nu)};
+    jupiterTermsDone_ = true;
+  }
+  const auto [A, B, C, D] = jupiterTerms_;
   dl = A * kDegToRad;
   dE = B * 1e-07;
   dM = dl - (C * kDegToRad) / Jupiter.eccentricity;  // e of the element row, before dE

@@ -144,6 +144,9 @@ ClsPlanet::Elements ClsPlanet::LoadElements(int row) const {
   el.inclination = r.i0 + r.i1 * T + r.i2 * T2 + r.i3 * T3;
   el.node = r.o0 + r.o1 * T + r.o2 * T2 + r.o3 * T3;
   el.semiMajorAxis = r.a;
+  // Every pass of the planet reads these of the same angle.
+  el.sinInclination = std::sin(el.inclination * kDegToRad);
+  el.cosInclination = std::cos(el.inclination * kDegToRad);
   return el;
 }
 
@@ -191,10 +194,9 @@ double ClsPlanet::FindPlanet(const Elements& planet, double& own, int passes, Te
     const double u = l - Omega;
     const double su = std::sin(u);
     const double cu = std::cos(u);
-    const double i = planet.inclination * kDegToRad;
     r = r + dR;
-    const double psi = FnArcSin(std::sin(i) * su) + dB;  // heliocentric latitude
-    lp = std::atan(std::cos(i) * su / cu) + Omega + dL * kDegToRad;
+    const double psi = FnArcSin(planet.sinInclination * su) + dB;  // heliocentric latitude
+    lp = std::atan(planet.cosInclination * su / cu) + Omega + dL * kDegToRad;
     if (cu < 0) lp += kPi;
     if (lp > kTwoPi) lp -= kTwoPi;  // once only: lp may stay negative
     rd = r * std::cos(psi);

@@ -20,11 +20,16 @@ double Frac(double x) { return x - Int(x); }
 double ClsPlanet::FnSolveKepler(double meanAnomaly, double eccentricity) {
   const double M0 = FnReduceRadians(meanAnomaly);
   double E = M0;
-  double d = E - eccentricity * std::sin(E) - M0;
+  // Sine and cosine of each E come from one call; the cosine serves the next
+  // step of the loop. The values are those of separate sin and cos calls.
+  double sinE, cosE;
+  ::sincos(E, &sinE, &cosE);
+  double d = E - eccentricity * sinE - M0;
   while (!(std::fabs(d) < 1e-06)) {
-    d = d / (1 - eccentricity * std::cos(E));
+    d = d / (1 - eccentricity * cosE);
     E = E - d;
-    d = E - eccentricity * std::sin(E) - M0;
+    ::sincos(E, &sinE, &cosE);
+    d = E - eccentricity * sinE - M0;
   }
   EccentricAnomaly = E;
   return 2 * std::atan(std::sqrt((1 + eccentricity) / (1 - eccentricity)) * std::tan(E / 2));

@@ -9,10 +9,6 @@
 
 namespace kelvaro {
 
-double Int(double x) { return std::floor(x); }
-
-double Fix(double x) { return std::trunc(x); }
-
 namespace {
 
 double HalfEven(double x) {

@@ -5,13 +5,14 @@
 //    to even, and raise CalculationError when the value does not fit.
 //  - A digit pattern ("00", "0000", "00.0000") rounds half away from zero, on
 //    the value's 15-significant-digit decimal form, as a text formatter does.
+#include <cmath>
 #include <cstdint>
 #include <string>
 
 namespace kelvaro {
 
-double Int(double x);  // floor
-double Fix(double x);  // truncation toward zero
+inline double Int(double x) { return std::floor(x); }  // floor
+inline double Fix(double x) { return std::trunc(x); }  // truncation toward zero
 
 std::int16_t CInt(double x);  // half to even; CalculationError when outside -32768..32767
 std::int32_t CLng(double x);  // half to even; CalculationError when outside 32-bit range
