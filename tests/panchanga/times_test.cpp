@@ -1,0 +1,274 @@
+#include "panchanga/times.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "common/date_text.h"
+#include "common/ole_date.h"
+
+namespace kelvaro {
+namespace {
+
+// 1 Jan 2023 was a Sunday; 1..7 Jan 2023 run Sunday to Saturday.
+constexpr int kSundayOfJanuary2023 = 1;
+
+OleDate At(int day, int hh, int mm, int ss = 0) { return OleDate::FromParts(2023, 1, day, hh, mm, ss); }
+
+std::vector<std::string> Split(const std::string& text) {
+  std::vector<std::string> items;
+  std::stringstream in(text);
+  std::string item;
+  while (std::getline(in, item, '~')) items.push_back(item);
+  return items;
+}
+
+std::string Text(OleDate d) { return FormatDate(d, "dd/mm/yyyy hh:nn:ss"); }
+
+clsTimes Timings(int day, OleDate sunrise, OleDate sunset, OleDate nextSunrise) {
+  clsTimes t;
+  t.currentdate = At(day, 10, 0);
+  t.Sunrisetime = sunrise;
+  t.Sunsettime = sunset;
+  t.SunRiseNexttime = nextSunrise;
+  t.findtimes();
+  return t;
+}
+
+// A day of exactly twelve hours (06:00 to 18:00, next sunrise 06:00): eighths
+// of 5400 s (1:30) and thirtieths of 1440 s (0:24). Worked by hand from the
+// almanac's rows: Rahukaal and Gulika count day eighths from 06:00, the night
+// Gulika night eighths from 18:00, Maandi thirtieths.
+TEST(Times, GulikaMaandiAndRahukaalForEachWeekday) {
+  struct Case {
+    const char* weekday;
+    int rahuH, rahuM;                  // RahukaalStart; the end is 1:30 later
+    int gulikaDayH, gulikaDayM;
+    int gulikaNightDay, gulikaNightH, gulikaNightM;  // day offset: 1 = after midnight
+    int mandiDayH, mandiDayM;
+    int mandiNightDay, mandiNightH, mandiNightM;
+  } cases[] = {
+      {"Sunday", 16, 30, 16, 30, 0, 22, 30, 16, 24, 0, 22, 0},    // 7, 7, 3, 26, 10
+      {"Monday", 7, 30, 15, 0, 0, 21, 0, 14, 48, 0, 20, 24},      // 1, 6, 2, 22, 6
+      {"Tuesday", 15, 0, 13, 30, 0, 19, 30, 13, 12, 0, 18, 48},   // 6, 5, 1, 18, 2
+      {"Wednesday", 12, 0, 12, 0, 1, 4, 30, 11, 36, 1, 4, 24},    // 4, 4, 7, 14, 26
+      {"Thursday", 13, 30, 10, 30, 1, 3, 0, 10, 0, 1, 2, 48},     // 5, 3, 6, 10, 22
+      {"Friday", 10, 30, 9, 0, 1, 1, 30, 8, 24, 1, 1, 12},        // 3, 2, 5, 6, 18
+      {"Saturday", 9, 0, 7, 30, 1, 0, 0, 6, 48, 0, 23, 36},       // 2, 1, 4, 2, 14
+  };
+  for (int i = 0; i < 7; ++i) {
+    const auto& c = cases[i];
+    const int day = kSundayOfJanuary2023 + i;
+    const clsTimes t = Timings(day, At(day, 6, 0), At(day, 18, 0), At(day + 1, 6, 0));
+    ASSERT_EQ(t.currentdate.Weekday(), i + 1);
+    EXPECT_EQ(Text(t.RahukaalStart), Text(At(day, c.rahuH, c.rahuM))) << c.weekday;
+    EXPECT_EQ(DateDiff("s", t.RahukaalStart, t.RahukaalEnd), 5400) << c.weekday;
+    EXPECT_EQ(Text(t.GulikaRise_Day), Text(At(day, c.gulikaDayH, c.gulikaDayM))) << c.weekday;
+    EXPECT_EQ(Text(t.GulikaRise_Night), Text(At(day + c.gulikaNightDay, c.gulikaNightH, c.gulikaNightM))) << c.weekday;
+    EXPECT_EQ(Text(t.MandiRise_Day), Text(At(day, c.mandiDayH, c.mandiDayM))) << c.weekday;
+    EXPECT_EQ(Text(t.MandiRise_Night), Text(At(day + c.mandiNightDay, c.mandiNightH, c.mandiNightM))) << c.weekday;
+  }
+}
+
+TEST(Times, SundayGulikaAndRahukaalBothBeginAt1630) {
+  const int day = kSundayOfJanuary2023;
+  const clsTimes t = Timings(day, At(day, 6, 0), At(day, 18, 0), At(day + 1, 6, 0));
+  EXPECT_EQ(Text(t.GulikaRise_Day), Text(At(day, 16, 30)));
+  EXPECT_EQ(Text(t.RahukaalStart), Text(At(day, 16, 30)));
+  EXPECT_EQ(Text(t.RahukaalEnd), Text(At(day, 18, 0)));
+  // The Sunday layout of the other periods, element numbers of the eighths.
+  EXPECT_EQ(Text(t.vaarvelaStart), Text(At(day, 10, 30)));  // 3
+  EXPECT_EQ(Text(t.vaarvelaEnd), Text(At(day, 12, 0)));     // 4
+  EXPECT_EQ(Text(t.kaalvelaStart), Text(At(day, 12, 0)));   // 4
+  EXPECT_EQ(Text(t.kaalvelaEnd), Text(At(day, 13, 30)));    // 5
+  EXPECT_EQ(Text(t.GulikaStart_Day), Text(At(day, 15, 0)));      // 6
+  EXPECT_EQ(Text(t.GulikaEnd_Day), Text(At(day, 16, 30)));       // 7
+  EXPECT_EQ(Text(t.yamaghanta2Start_Day), Text(At(day, 12, 0)));  // 4
+  EXPECT_EQ(Text(t.yamaghanta2End_Day), Text(At(day, 13, 30)));   // 5
+  EXPECT_EQ(Text(t.ArdhayamaStart_Day), Text(At(day, 10, 30)));   // 3
+  EXPECT_EQ(Text(t.ArdhayamaEnd_Day), Text(At(day, 12, 0)));      // 4
+  EXPECT_EQ(Text(t.Kantaka2Start_Day), Text(At(day, 9, 0)));      // 2
+  EXPECT_EQ(Text(t.Kantaka2End_Day), Text(At(day, 10, 30)));      // 3
+  EXPECT_EQ(Text(t.KaalratriStart), Text(At(day + 1, 1, 30)));    // night 5
+  EXPECT_EQ(Text(t.KaalratriEnd), Text(At(day + 1, 3, 0)));       // night 6
+  EXPECT_EQ(Text(t.GulikaStart_Night), Text(At(day, 21, 0)));     // night 2
+  EXPECT_EQ(Text(t.GulikaEnd_Night), Text(At(day, 22, 30)));      // night 3
+}
+
+// The weekday rows left open follow the lords of the eighths. Two of them are
+// published everywhere for a 06:00 to 18:00 day: Yamagandam (Jupiter's part)
+// and Gulika kalam (Saturn's part).
+TEST(Times, YamagandamAndGulikaKalamMatchThePublishedTable) {
+  struct Case {
+    const char* weekday;
+    int yamaH, yamaM;      // start; each lasts 1:30
+    int gulikaH, gulikaM;  // start
+  } cases[] = {
+      {"Sunday", 12, 0, 15, 0},   {"Monday", 10, 30, 13, 30}, {"Tuesday", 9, 0, 12, 0},
+      {"Wednesday", 7, 30, 10, 30}, {"Thursday", 6, 0, 9, 0}, {"Friday", 15, 0, 7, 30},
+      {"Saturday", 13, 30, 6, 0},
+  };
+  for (int i = 0; i < 7; ++i) {
+    const auto& c = cases[i];
+    const int day = kSundayOfJanuary2023 + i;
+    const clsTimes t = Timings(day, At(day, 6, 0), At(day, 18, 0), At(day + 1, 6, 0));
+    EXPECT_EQ(Text(t.yamaghanta2Start_Day), Text(At(day, c.yamaH, c.yamaM))) << c.weekday;
+    EXPECT_EQ(DateDiff("s", t.yamaghanta2Start_Day, t.yamaghanta2End_Day), 5400) << c.weekday;
+    EXPECT_EQ(Text(t.GulikaStart_Day), Text(At(day, c.gulikaH, c.gulikaM))) << c.weekday;
+    EXPECT_EQ(DateDiff("s", t.GulikaStart_Day, t.GulikaEnd_Day), 5400) << c.weekday;
+    // Gulika rises as its part ends.
+    EXPECT_EQ(t.GulikaRise_Day, t.GulikaEnd_Day) << c.weekday;
+    EXPECT_EQ(t.GulikaRise_Night, t.GulikaEnd_Night) << c.weekday;
+  }
+}
+
+// Wednesday, worked by hand: the day's eighths belong to Mercury, Jupiter,
+// Venus, Saturn, Sun, Moon, Mars; the night's to Sun, Moon, Mars, Mercury,
+// Jupiter, Venus, Saturn.
+TEST(Times, WednesdayPeriodsFollowTheLordsOfTheEighths) {
+  const int day = kSundayOfJanuary2023 + 3;
+  const clsTimes t = Timings(day, At(day, 6, 0), At(day, 18, 0), At(day + 1, 6, 0));
+  struct Case {
+    const char* name;
+    OleDate got;
+    OleDate expected;
+  } cases[] = {
+      {"vaarvelaStart (Mercury 1)", t.vaarvelaStart, At(day, 6, 0)},
+      {"kaalvelaEnd (Jupiter 2)", t.kaalvelaEnd, At(day, 9, 0)},
+      {"Kantaka2Start_Day (Mars 7)", t.Kantaka2Start_Day, At(day, 15, 0)},
+      {"KantakaEnd (Mars 7)", t.KantakaEnd, At(day, 16, 30)},
+      {"KulikaStart_Day (Saturn 4)", t.KulikaStart_Day, At(day, 10, 30)},
+      {"AmritaGhatiStart (Moon 6)", t.AmritaGhatiStart, At(day, 13, 30)},
+      {"VishaGhatiEnd (Saturn 4)", t.VishaGhatiEnd, At(day, 12, 0)},
+      {"KaalratriStart (night Mars 3)", t.KaalratriStart, At(day, 21, 0)},
+      {"yamaghanta2Start_Night (night Jupiter 5)", t.yamaghanta2Start_Night, At(day + 1, 0, 0)},
+      {"ArdhayamaEnd_Night (night Mercury 4)", t.ArdhayamaEnd_Night, At(day + 1, 0, 0)},
+      {"KulikaEnd_Night (night Saturn 7)", t.KulikaEnd_Night, At(day + 1, 4, 30)},
+      {"kaalaRise_Day (Sun 5)", t.kaalaRise_Day, At(day, 13, 30)},
+      {"kaalaRise_Night (night Sun 1)", t.kaalaRise_Night, At(day, 19, 30)},
+      {"YamagantaRise_Day (Jupiter 2)", t.YamagantaRise_Day, At(day, 9, 0)},
+      {"ArdhaPrakarananRise_Night (night Mercury 4)", t.ArdhaPrakarananRise_Night, At(day + 1, 0, 0)},
+      {"VidaghatiRise_Day (Venus 3)", t.VidaghatiRise_Day, At(day, 10, 30)},
+  };
+  for (const auto& c : cases) EXPECT_EQ(Text(c.got), Text(c.expected)) << c.name;
+}
+
+// Day 43203 s, night 43197 s: the eighths are 5400.375 -> 5400 and
+// 5399.625 -> 5400, so the eighth element lands 3 s short of sunset and
+// 3 s after the next sunrise. Nothing corrects it.
+TEST(Times, LastElementMissesTheEndOfTheSpan) {
+  const int day = kSundayOfJanuary2023;  // Sunday: RahukaalEnd is day element 8
+  const clsTimes t = Timings(day, At(day, 6, 0), At(day, 18, 0, 3), At(day + 1, 6, 0));
+  EXPECT_EQ(DateDiff("s", t.RahukaalEnd, t.Sunsettime), 3);
+  const std::vector<std::string> nightEnds = Split(t.HoraEnd_NightTemp);
+  ASSERT_EQ(nightEnds.size(), 12u);
+  EXPECT_EQ(nightEnds.back(), "06:00:03");  // 12 twelfths of 3600 s from 18:00:03
+}
+
+// The eighth is made whole half to even; every other part comes from that
+// rounded eighth and is made whole again at each step.
+TEST(Times, PartsComeFromTheRoundedEighth) {
+  struct Case {
+    int dayLengthSeconds;
+    int rahukaalEndAfterSunrise;  // Sunday: day element 8, eight rounded eighths
+  } cases[] = {
+      {43204, 43200},  // 5400.5 -> 5400 (even)
+      {43212, 43216},  // 5401.5 -> 5402 (even): 4 s beyond sunset
+      {43196, 43200},  // 5399.5 -> 5400 (even)
+  };
+  const int day = kSundayOfJanuary2023;
+  for (const auto& c : cases) {
+    const OleDate sunrise = At(day, 6, 0);
+    const OleDate sunset = DateAdd("s", c.dayLengthSeconds, sunrise);
+    const clsTimes t = Timings(day, sunrise, sunset, At(day + 1, 6, 0));
+    EXPECT_EQ(DateDiff("s", sunrise, t.RahukaalEnd), c.rahukaalEndAfterSunrise) << c.dayLengthSeconds;
+  }
+
+  // Day 43212 s: eighth 5401.5 -> 5402. Thirtieth 5402 * 8 / 30 = 1440.53,
+  // made 1441 at each step: Maandi (Sunday, element 26) rises 26 * 1441 =
+  // 37466 s after sunrise. From the length the thirtieth would be 1440.4 and
+  // Maandi 37440 s; one multiplication would give 37453.9 s.
+  const OleDate sunrise = At(day, 6, 0);
+  const clsTimes rounded = Timings(day, sunrise, At(day, 18, 0, 12), At(day + 1, 6, 0));
+  EXPECT_EQ(DateDiff("s", sunrise, rounded.MandiRise_Day), 37466);
+
+  // Day 43208 s: eighth 5401. Twelfth 3600.67 -> 3601 and fifteenth
+  // 2880.53 -> 2881, each made whole at each step.
+  const clsTimes t = Timings(day, sunrise, At(day, 18, 0, 8), At(day + 1, 6, 0));
+  const std::vector<std::string> horaStarts = Split(t.HoraStart_DayTemp);
+  ASSERT_EQ(horaStarts.size(), 12u);
+  EXPECT_EQ(horaStarts[1], "07:00:01");
+  EXPECT_EQ(horaStarts[11], "17:00:11");
+  EXPECT_EQ(Split(t.HoraEnd_DayTemp).back(), "18:00:12");  // 4 s after sunset
+  const std::vector<std::string> ghatiStarts = Split(t.DoGhatiMuhurtaStart_Temp);
+  ASSERT_EQ(ghatiStarts.size(), 30u);
+  EXPECT_EQ(ghatiStarts[1], "06:48:01");
+  EXPECT_EQ(ghatiStarts[14], "17:12:14");  // 14 * 2881 s
+  EXPECT_EQ(ghatiStarts[15], "18:00:08");  // the night's list starts at sunset
+}
+
+// Wednesday (4): hora n is 4 - 2 (n - 1) brought into 1..7, which walks the
+// Chaldean order Mercury, Moon, Saturn, Jupiter, Mars, Sun, Venus.
+TEST(Times, HoraNamesAndTimesForWednesday) {
+  const int day = kSundayOfJanuary2023 + 3;
+  const clsTimes t = Timings(day, At(day, 6, 0), At(day, 18, 0), At(day + 1, 6, 0));
+  EXPECT_EQ(t.HoraName_DayTemp,
+            "Wednesday~Monday~Saturday~Thursday~Tuesday~Sunday~Friday~Wednesday~Monday~Saturday~Thursday~Tuesday");
+  EXPECT_EQ(t.HoraName_NightTemp,
+            "Sunday~Friday~Wednesday~Monday~Saturday~Thursday~Tuesday~Sunday~Friday~Wednesday~Monday~Saturday");
+  EXPECT_EQ(t.HoraStart_DayTemp,
+            "06:00:00~07:00:00~08:00:00~09:00:00~10:00:00~11:00:00~12:00:00~13:00:00~14:00:00~15:00:00~16:00:00~"
+            "17:00:00");
+  EXPECT_EQ(t.HoraEnd_NightTemp,
+            "19:00:00~20:00:00~21:00:00~22:00:00~23:00:00~00:00:00~01:00:00~02:00:00~03:00:00~04:00:00~05:00:00~"
+            "06:00:00");
+}
+
+TEST(Times, DoGhatiMuhurtaLists) {
+  const int day = kSundayOfJanuary2023;
+  const clsTimes t = Timings(day, At(day, 6, 0), At(day, 18, 0), At(day + 1, 6, 0));
+  const std::vector<std::string> names = Split(t.DoGhatiMuhurtaName_Temp);
+  ASSERT_EQ(names.size(), 30u);
+  EXPECT_EQ(names[0], "Rudra/Aridra");
+  EXPECT_EQ(names[6], "Vishvadeva/UttaraShada");
+  EXPECT_EQ(names[10], "Indragani/Vishaka");
+  EXPECT_EQ(names[14], "Bhaga/PoorvaPalguni");
+  EXPECT_EQ(names[15], "Rudra/Aridra");
+  EXPECT_EQ(names[19], "Ashvani Kumar/Ashvani");
+  EXPECT_EQ(names[25], "Brihsapati/Pushya");
+  EXPECT_EQ(names[29], "Pawan/Swati");
+  // A fifteenth of a twelve-hour span is 48 minutes.
+  const std::vector<std::string> starts = Split(t.DoGhatiMuhurtaStart_Temp);
+  const std::vector<std::string> ends = Split(t.DoGhatiMuhurtaEnd_Temp);
+  ASSERT_EQ(starts.size(), 30u);
+  ASSERT_EQ(ends.size(), 30u);
+  EXPECT_EQ(starts[0], "06:00:00");
+  EXPECT_EQ(ends[0], "06:48:00");
+  EXPECT_EQ(ends[14], "18:00:00");
+  EXPECT_EQ(starts[15], "18:00:00");
+  EXPECT_EQ(starts[23], "00:24:00");  // 8 * 48 min after 18:00
+  EXPECT_EQ(ends[29], "06:00:00");
+  for (std::size_t i = 0; i + 1 < 30; ++i) {
+    if (i != 14) {
+      EXPECT_EQ(ends[i], starts[i + 1]) << i;
+    }
+  }
+}
+
+// A second call replaces the lists rather than appending to them.
+TEST(Times, SecondCallStartsTheListsAfresh) {
+  clsTimes t;
+  t.currentdate = At(4, 10, 0);
+  t.Sunrisetime = At(4, 6, 0);
+  t.Sunsettime = At(4, 18, 0);
+  t.SunRiseNexttime = At(5, 6, 0);
+  t.findtimes();
+  t.findtimes();
+  EXPECT_EQ(Split(t.HoraName_DayTemp).size(), 12u);
+  EXPECT_EQ(Split(t.DoGhatiMuhurtaName_Temp).size(), 30u);
+}
+
+}  // namespace
+}  // namespace kelvaro
