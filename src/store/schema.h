@@ -1,0 +1,21 @@
+#pragma once
+// The schema of DBMirvaneBasic.db by version, and the seed data of a new file.
+//
+// Version 1: the eleven tables with the seed data.
+// To change the schema, append a step to SchemaMigrations() (schema.cpp) that
+// brings a version-1 file to version 2 and so on; never edit an old step, as
+// files made by it exist on users' machines.
+#include <SQLiteCpp/SQLiteCpp.h>
+
+namespace kelvaro::store {
+
+constexpr int kSchemaVersion = 1;
+
+// Step 1: creates the tables and fills them with the seed data.
+void CreateSchemaVersion1(SQLite::Database& db);
+
+// Fills the tables of a new file from the seed files compiled in. Throws
+// StoreError naming the file and line of a seed row that does not fit.
+void LoadSeedData(SQLite::Database& db);
+
+}  // namespace kelvaro::store

@@ -1,0 +1,307 @@
+// Opening, creating and upgrading the database file, and refusing files that
+// are not ours, against real files in a fresh folder per test.
+#include <gtest/gtest.h>
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include "store/chart_store.h"
+#include "store/country_master.h"
+#include "store/database.h"
+#include "store/schema.h"
+#include "store/store_error.h"
+#include "store_test_support.h"
+
+namespace kelvaro::store {
+namespace {
+
+using testing::FileBytes;
+using testing::TempFolder;
+using testing::WriteFile;
+
+ChartFields SampleChart(const std::string& name) {
+  ChartFields f;
+  f.name = name;
+  f.gender = "Male";
+  f.countryId = 1;
+  f.city = "Hyderabad (A.P)";
+  f.day = "14";
+  f.month = "Jul";
+  f.year = "1965";
+  f.hour = 14;
+  f.minute = 15;
+  f.latDeg = 17;
+  f.latNS = "N";
+  f.latMin = 20;
+  f.lonDeg = 78;
+  f.lonEW = "E";
+  f.lonMin = 30;
+  f.zoneSno = 1;
+  return f;
+}
+
+// Expects a StoreError whose message names the file and holds `words`.
+template <class Body>
+void ExpectStoreError(const std::filesystem::path& path, const std::string& words, Body&& body) {
+  try {
+    body();
+    FAIL() << "no StoreError; expected one about " << words;
+  } catch (const StoreError& e) {
+    const std::string message = e.what();
+    EXPECT_NE(message.find(path.string()), std::string::npos) << message;
+    EXPECT_NE(message.find(words), std::string::npos) << message;
+  }
+}
+
+long long Pragma(const std::filesystem::path& path, const std::string& name) {
+  SQLite::Database raw(path, SQLite::OPEN_READONLY);
+  return raw.execAndGet("PRAGMA " + name).getInt64();
+}
+
+TEST(DatabaseOpen, CreatesCloseReopensAndKeepsEverything) {
+  TempFolder folder;
+  const auto path = folder / "DBMirvaneBasic.db";
+  std::int64_t chart = 0;
+  std::int64_t country = 0;
+  {
+    Database db(path);
+    EXPECT_TRUE(db.Created());
+    EXPECT_EQ(db.SchemaVersion(), kSchemaVersion);
+    chart = SaveChart(db, SampleChart("Velnesh")).id;
+    country = AddCountry(db, "Atlantis").id;
+  }
+  // Nothing but the database itself is left in the folder: no temporary
+  // file, no journal, no backup.
+  EXPECT_EQ(folder.Entries(), std::vector<std::string>{"DBMirvaneBasic.db"});
+  EXPECT_EQ(Pragma(path, "application_id"), Database::kApplicationId);
+  EXPECT_EQ(Pragma(path, "user_version"), kSchemaVersion);
+
+  const std::string before = FileBytes(path);
+  {
+    Database db(path);
+    EXPECT_FALSE(db.Created());
+    EXPECT_TRUE(db.BackupPath().empty());
+    const auto opened = OpenChart(db, chart);
+    ASSERT_TRUE(opened.has_value());
+    EXPECT_EQ(opened->name, "Velnesh");
+    ASSERT_TRUE(CountryById(db, country).has_value());
+    EXPECT_EQ(CountryById(db, country)->name, "Atlantis");
+  }
+  // Opening and reading changes no byte.
+  EXPECT_EQ(FileBytes(path), before);
+}
+
+TEST(DatabaseOpen, NewFileInAMissingFolderIsRefused) {
+  TempFolder folder;
+  const auto path = folder / "no-such-folder" / "DBMirvaneBasic.db";
+  ExpectStoreError(folder / "no-such-folder", "does not exist", [&] { Database db(path); });
+  EXPECT_FALSE(std::filesystem::exists(path));
+}
+
+TEST(DatabaseOpen, FailedCreationLeavesNothingBehind) {
+  TempFolder folder;
+  const auto path = folder / "DBMirvaneBasic.db";
+  OpenOptions options;
+  options.migrations = SchemaMigrations();
+  options.migrations.push_back({2, [](SQLite::Database&) { throw std::runtime_error("step two broke"); }});
+  ExpectStoreError(path, "step two broke", [&] { Database db(path, options); });
+  EXPECT_TRUE(folder.Entries().empty());
+}
+
+TEST(DatabaseOpen, ReadOnlyOpenReadsAndRefusesEveryWrite) {
+  TempFolder folder;
+  const auto path = folder / "DBMirvaneBasic.db";
+  { Database db(path); }
+  const std::string before = FileBytes(path);
+
+  OpenOptions options;
+  options.readOnly = true;
+  Database db(path, options);
+  EXPECT_TRUE(db.ReadOnly());
+  EXPECT_FALSE(ListCountries(db).empty());
+  ExpectStoreError(path, "read-only", [&] { AddCountry(db, "Atlantis"); });
+  ExpectStoreError(path, "read-only", [&] { SaveChart(db, SampleChart("Velnesh")); });
+  EXPECT_EQ(FileBytes(path), before);
+}
+
+TEST(DatabaseOpen, ReadOnlyOpenOfAMissingFileCreatesNothing) {
+  TempFolder folder;
+  const auto path = folder / "DBMirvaneBasic.db";
+  OpenOptions options;
+  options.readOnly = true;
+  ExpectStoreError(path, "does not exist", [&] { Database db(path, options); });
+  EXPECT_TRUE(folder.Entries().empty());
+}
+
+TEST(DatabaseOpen, LockedFileIsReportedAndLeftAlone) {
+  TempFolder folder;
+  const auto path = folder / "DBMirvaneBasic.db";
+  { Database db(path); }
+  const std::string before = FileBytes(path);
+
+  // Another program holds the file in an exclusive transaction.
+  SQLite::Database other(path, SQLite::OPEN_READWRITE);
+  other.exec("BEGIN EXCLUSIVE");
+  OpenOptions options;
+  options.busyTimeoutMs = 50;
+  ExpectStoreError(path, "locked", [&] { Database db(path, options); });
+  other.exec("ROLLBACK");
+
+  // Opened first, then locked by the other program: the write fails and is
+  // rolled back.
+  Database db(path, options);
+  other.exec("BEGIN EXCLUSIVE");
+  ExpectStoreError(path, "locked", [&] { AddCountry(db, "Atlantis"); });
+  other.exec("ROLLBACK");
+  EXPECT_EQ(FileBytes(path), before);
+  EXPECT_FALSE(CountryByName(db, "Atlantis").has_value());
+}
+
+// Files that are not a Kelvaro database of a known version: each is refused
+// with a message naming it, and its bytes stay as they were.
+TEST(DatabaseOpen, ForeignDamagedAndNewerFilesAreRefusedUntouched) {
+  struct Case {
+    const char* label;
+    std::function<void(const std::filesystem::path&)> make;
+    const char* words;
+  };
+  const std::vector<Case> cases = {
+      {"text file",
+       [](const auto& p) { WriteFile(p, std::string(3000, 'x') + "\nthis is a letter, not a database\n"); },
+       "not a Kelvaro database"},
+      {"empty file", [](const auto& p) { WriteFile(p, ""); }, "not a Kelvaro database"},
+      {"another program's SQLite file",
+       [](const auto& p) {
+         SQLite::Database other(p, SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE);
+         other.exec("CREATE TABLE notes (body TEXT); INSERT INTO notes VALUES ('keep me')");
+       },
+       "not a Kelvaro database"},
+      {"a table missing",
+       [](const auto& p) {
+         { Database db(p); }
+         SQLite::Database raw(p, SQLite::OPEN_READWRITE);
+         raw.exec("DROP TABLE tempdasasandhi");
+       },
+       "no table tempdasasandhi"},
+      {"a newer schema",
+       [](const auto& p) {
+         { Database db(p); }
+         SQLite::Database raw(p, SQLite::OPEN_READWRITE);
+         raw.exec("PRAGMA user_version = 99");
+       },
+       "newer"},
+      {"damaged pages",
+       [](const auto& p) {
+         { Database db(p); }
+         std::string bytes = FileBytes(p);
+         // Page size 4096: overwrite the whole of the second page, one of the
+         // schema's table pages, keeping the header of page one intact.
+         for (std::size_t i = 4096; i < 8192 && i < bytes.size(); ++i) bytes[i] = static_cast<char>(0xA5);
+         WriteFile(p, bytes);
+       },
+       ""},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.label);
+    TempFolder folder;
+    const auto path = folder / "DBMirvaneBasic.db";
+    c.make(path);
+    const std::string before = FileBytes(path);
+    ExpectStoreError(path, c.words, [&] { Database db(path); });
+    EXPECT_EQ(FileBytes(path), before);
+    EXPECT_EQ(folder.Entries(), std::vector<std::string>{"DBMirvaneBasic.db"});
+  }
+}
+
+TEST(DatabaseOpen, AFolderIsNotADatabase) {
+  TempFolder folder;
+  ExpectStoreError(folder.Path(), "is a folder", [&] { Database db(folder.Path()); });
+}
+
+// A later version of the program adds a step; opening an older file copies it
+// to a backup beside it and applies the step, keeping every row.
+TEST(DatabaseUpgrade, BacksUpThenMigratesInOrder) {
+  TempFolder folder;
+  const auto path = folder / "DBMirvaneBasic.db";
+  std::int64_t chart = 0;
+  {
+    Database db(path);
+    chart = SaveChart(db, SampleChart("Velnesh")).id;
+  }
+  const std::string version1 = FileBytes(path);
+
+  std::vector<int> ran;
+  OpenOptions options;
+  options.migrations = SchemaMigrations();
+  options.migrations.push_back({2, [&](SQLite::Database& c) {
+                                  ran.push_back(2);
+                                  c.exec("ALTER TABLE ChartSave ADD COLUMN Notes TEXT");
+                                  c.exec("UPDATE ChartSave SET Notes = 'from step 2'");
+                                }});
+  options.migrations.push_back({3, [&](SQLite::Database& c) {
+                                  ran.push_back(3);
+                                  // Sees the column of step 2, so the steps ran in order.
+                                  c.exec("UPDATE ChartSave SET Notes = Notes || ', step 3'");
+                                }});
+  {
+    Database db(path, options);
+    EXPECT_EQ(db.SchemaVersion(), 3);
+    EXPECT_EQ(ran, (std::vector<int>{2, 3}));
+    ASSERT_FALSE(db.BackupPath().empty());
+    EXPECT_EQ(db.BackupPath(), folder / "DBMirvaneBasic.db.v1.bak");
+    EXPECT_EQ(FileBytes(db.BackupPath()), version1);
+    EXPECT_EQ(db.Connection().execAndGet("SELECT Notes FROM ChartSave").getString(), "from step 2, step 3");
+    ASSERT_TRUE(OpenChart(db, chart).has_value());
+  }
+  EXPECT_EQ(Pragma(path, "user_version"), 3);
+
+  // Opened again at version 3: nothing runs, no new backup.
+  ran.clear();
+  {
+    Database db(path, options);
+    EXPECT_TRUE(ran.empty());
+    EXPECT_TRUE(db.BackupPath().empty());
+  }
+  EXPECT_EQ(folder.Entries(), (std::vector<std::string>{"DBMirvaneBasic.db", "DBMirvaneBasic.db.v1.bak"}));
+}
+
+TEST(DatabaseUpgrade, AFailedStepLeavesTheFileAsItWas) {
+  TempFolder folder;
+  const auto path = folder / "DBMirvaneBasic.db";
+  std::int64_t chart = 0;
+  {
+    Database db(path);
+    chart = SaveChart(db, SampleChart("Velnesh")).id;
+  }
+  const std::string before = FileBytes(path);
+
+  OpenOptions options;
+  options.migrations = SchemaMigrations();
+  options.migrations.push_back({2, [](SQLite::Database& c) {
+                                  c.exec("ALTER TABLE ChartSave ADD COLUMN Notes TEXT");
+                                  c.exec("DELETE FROM ChartSave");
+                                  throw std::runtime_error("step two broke");
+                                }});
+  ExpectStoreError(path, "step two broke", [&] { Database db(path, options); });
+  EXPECT_EQ(FileBytes(path), before);
+  EXPECT_EQ(folder.Entries(), std::vector<std::string>{"DBMirvaneBasic.db"});
+
+  Database db(path);
+  EXPECT_EQ(db.SchemaVersion(), 1);
+  EXPECT_TRUE(OpenChart(db, chart).has_value());
+}
+
+TEST(DatabaseUpgrade, ReadOnlyOpenDoesNotUpgrade) {
+  TempFolder folder;
+  const auto path = folder / "DBMirvaneBasic.db";
+  { Database db(path); }
+  const std::string before = FileBytes(path);
+  OpenOptions options;
+  options.readOnly = true;
+  options.migrations = SchemaMigrations();
+  options.migrations.push_back({2, [](SQLite::Database& c) { c.exec("CREATE TABLE Extra (x)"); }});
+  ExpectStoreError(path, "read-only", [&] { Database db(path, options); });
+  EXPECT_EQ(FileBytes(path), before);
+}
+
+}  // namespace
+}  // namespace kelvaro::store
