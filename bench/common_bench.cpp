@@ -10,3 +10,13 @@ static void BM_ParseBirthText(benchmark::State& state) {
   }
 }
 BENCHMARK(BM_ParseBirthText);
+
+// clsTimes joins some hundred clock texts for its hora and muhurta lists.
+static void BM_FormatClock(benchmark::State& state) {
+  const kelvaro::OleDate m = kelvaro::OleDate::FromParts(1965, 7, 14, 14, 15, 9);
+  for (auto _ : state) {
+    auto s = kelvaro::FormatDate(m, "hh:mm:ss");
+    benchmark::DoNotOptimize(s);
+  }
+}
+BENCHMARK(BM_FormatClock);

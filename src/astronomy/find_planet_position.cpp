@@ -43,4 +43,13 @@ void ClsFindPlanetPosition::FindSunMoonValues(OleDate date, const std::string& s
   planet_.FnCalculateSunMoon();
 }
 
+void ClsFindPlanetPosition::FindLagnaValues(OleDate date, const std::string& strNS, double latDeg, double latMin,
+                                            const std::string& strEW, double lonDeg, double lonMin, double zoneHours,
+                                            const std::string& strZoneSide, double /*daylightHours*/,
+                                            const std::string& ayanamsaType, double zeroYear, double progress) {
+  SetInputs(date, strNS, latDeg, latMin, strEW, lonDeg, lonMin, zoneHours, strZoneSide, ayanamsaType, zeroYear,
+            progress);
+  planet_.FnCalculateLagna();
+}
+
 }  // namespace kelvaro

@@ -41,6 +41,14 @@ class ClsFindPlanetPosition {
                          const std::string& strZoneSide, double daylightHours, const std::string& ayanamsaType,
                          double zeroYear, double progress);
 
+  // The same inputs, but only the Lagna and Midheaven (and the ayanamsa) are
+  // worked out; the other getters keep the values of the last full
+  // calculation, so a reader of them calls FindFixValues first, as always.
+  void FindLagnaValues(OleDate date, const std::string& strNS, double latDeg, double latMin,
+                       const std::string& strEW, double lonDeg, double lonMin, double zoneHours,
+                       const std::string& strZoneSide, double daylightHours, const std::string& ayanamsaType,
+                       double zeroYear, double progress);
+
   const ClsPlanet& Planet() const { return planet_; }
   ClsPlanet& Planet() { return planet_; }
 

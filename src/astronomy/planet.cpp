@@ -53,6 +53,17 @@ void ClsPlanet::FnCalculateSunMoon() {
   guard.Check("the Sun and Moon calculation");
 }
 
+void ClsPlanet::FnCalculateLagna() {
+  FpGuard guard;
+  SplitBirthDateTime();
+  FnFindLocalSiderealTime();
+  SplitBirthDateTime();
+  FnFindSiderealTime();
+  FnFindAyanamsa();
+  FnFindLagna();
+  guard.Check("the Lagna calculation");
+}
+
 void ClsPlanet::SplitBirthDateTime() {
   const DateParts p = BirthDateTime.Parts();
   DayOfMonth = p.day;

@@ -65,6 +65,11 @@ class ClsPlanet {
   // The lunar-date searches probe thousands of moments and need nothing else.
   void FnCalculateSunMoon();
 
+  // The Lagna and Midheaven alone: the time steps, the ayanamsa and the Lagna,
+  // giving exactly the LagnaValue and MidHeaven that FnCalculate gives. For
+  // Gulika and Maandi, which are the Lagnas of their rise moments.
+  void FnCalculateLagna();
+
   // Shared normalisers (public because other subsystems follow the same rules).
   static double FnNormalize360(double x);   // 0 to 360, both ends possible
   static double FnReduceDegrees(double x);  // x - Fix(x / 360) * 360

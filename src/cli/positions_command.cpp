@@ -1,9 +1,244 @@
+// kelvaro-cli positions: the positions, the day's limits, Gulika and Maandi of
+// one birth, or of every row of a CSV file.
 #include <CLI/CLI.hpp>
+#include <fmt/format.h>
 
+#include <fstream>
+#include <nlohmann/json.hpp>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "cli/birth_input.h"
 #include "cli/cli.h"
+#include "common/calculation_error.h"
+#include "common/date_text.h"
+#include "common/number_rules.h"
+#include "horoscope/calculation_context.h"
 
 namespace kelvaro::cli {
 
-void RegisterPositionsCommand(CLI::App&, Session&) {}
+namespace {
+
+constexpr const char* kBodyKeys[kBodyCount] = {"lagna",   "sun",   "moon",   "mars", "mercury", "jupiter",
+                                               "venus",   "saturn", "rahu",  "ketu", "gulika",  "maandi"};
+constexpr const char* kBodyLabels[kBodyCount] = {"Lagna",  "Sun",    "Moon", "Mars", "Mercury", "Jupiter",
+                                                 "Venus",  "Saturn", "Rahu", "Ketu", "Gulika",  "Maandi"};
+
+std::string Clock24(OleDate moment) { return FormatDate(moment, "DD/MM/YYYY HH:NN"); }
+
+// 205.2472 -> 205°14'50": seconds rounded half away from zero, 60 carried.
+std::string DegreesMinutesSeconds(double angle) {
+  const bool negative = angle < 0;
+  const double longitude = negative ? -angle : angle;
+  int degrees = static_cast<int>(Int(longitude));
+  const double minutesExact = (longitude - degrees) * 60;
+  int minutes = static_cast<int>(Int(minutesExact));
+  int seconds = std::stoi(FormatPattern((minutesExact - minutes) * 60, "00"));
+  if (seconds >= 60) {
+    seconds -= 60;
+    ++minutes;
+  }
+  if (minutes >= 60) {
+    minutes -= 60;
+    ++degrees;
+  }
+  return fmt::format("{}{}°{:02d}'{:02d}\"", negative ? "-" : "", degrees, minutes, seconds);
+}
+
+nlohmann::ordered_json PositionsJson(const HoroscopeState& s) {
+  nlohmann::ordered_json j;
+  for (int b = 0; b < 10; ++b) j[kBodyKeys[b]] = s.LongitudeOf(static_cast<Body>(b));
+  j["midheaven"] = s.MidHeaven;
+  j["ayanamsa"] = s.Ayanamsa;
+  j["sunrise"] = Clock24(s.SunriseOfBirthDay);
+  j["sunset"] = Clock24(s.SunsetOfBirthDay);
+  j["day_or_night"] = s.DayOrNight;
+  j["gulika"] = s.GulikaLon;
+  j["maandi"] = s.MaandiLon;
+  nlohmann::ordered_json rasi;
+  for (int b = 0; b < kBodyCount; ++b) rasi[kBodyKeys[b]] = s.RasiOf(static_cast<Body>(b));
+  j["rasi"] = rasi;
+  return j;
+}
+
+std::string PositionsTable(const HoroscopeState& s) {
+  std::string out;
+  out += fmt::format("{:<10} {:>13}  {:<11} {:>10}\n", "Body", "Longitude", "Rasi", "In rasi");
+  for (int b = 0; b < kBodyCount; ++b) {
+    const Body body = static_cast<Body>(b);
+    const double lon = s.LongitudeOf(body);
+    const int rasi = s.RasiOf(body);
+    out += fmt::format("{:<10} {:>13}  {:<11} {:>10}\n", kBodyLabels[b], DegreesMinutesSeconds(lon),
+                       s.RasiNames[static_cast<size_t>(rasi - 1)], DegreesMinutesSeconds(lon - (rasi - 1) * 30.0));
+  }
+  out += fmt::format("{:<10} {:>13}\n", "Midheaven", DegreesMinutesSeconds(s.MidHeaven));
+  out += fmt::format("{:<10} {:>13}  ({})\n", "Ayanamsa", DegreesMinutesSeconds(s.Ayanamsa), s.AyanamsaName);
+  out += fmt::format("{:<10} {}\n", "Sunrise", Clock24(s.SunriseOfBirthDay));
+  out += fmt::format("{:<10} {}\n", "Sunset", Clock24(s.SunsetOfBirthDay));
+  out += fmt::format("{:<10} {}\n", "Birth by", s.DayOrNight);
+  return out;
+}
+
+// Runs one birth on a fresh context, so every result depends on its own row
+// alone and never on what was calculated before it.
+HoroscopeState Calculate(const BirthText& text, const std::string& prefix, std::optional<InputError>& error) {
+  CalculationContext ctx;
+  error = ApplyBirthText(text, prefix, ctx.state);
+  if (error) return ctx.state;
+  ctx.state.Language = "English";
+  LoadNamesForLanguage(ctx.state);
+  ComputeChartPositions(ctx, kRasiDivision);
+  return ctx.state;
+}
+
+std::vector<std::string> SplitCsvLine(std::string line) {
+  if (!line.empty() && line.back() == '\r') line.pop_back();
+  std::vector<std::string> fields;
+  std::string field;
+  bool quoted = false;
+  for (size_t i = 0; i < line.size(); ++i) {
+    const char c = line[i];
+    if (quoted) {
+      if (c == '"' && i + 1 < line.size() && line[i + 1] == '"') {
+        field += '"';
+        ++i;
+      } else if (c == '"') {
+        quoted = false;
+      } else {
+        field += c;
+      }
+    } else if (c == '"') {
+      quoted = true;
+    } else if (c == ',') {
+      fields.push_back(field);
+      field.clear();
+    } else {
+      field += c;
+    }
+  }
+  fields.push_back(field);
+  for (auto& f : fields) {
+    while (!f.empty() && f.front() == ' ') f.erase(f.begin());
+    while (!f.empty() && f.back() == ' ') f.pop_back();
+  }
+  return fields;
+}
+
+void RunBatch(const std::string& path, Session& session) {
+  std::ifstream in(path);
+  if (!in) {
+    session.err << "kelvaro-cli: cannot open batch file \"" << path << "\"\n";
+    session.status = kExitFailure;
+    return;
+  }
+  std::string line;
+  if (!std::getline(in, line)) {
+    session.err << "kelvaro-cli: batch file \"" << path << "\" is empty\n";
+    session.status = kExitBadInput;
+    return;
+  }
+  const std::vector<std::string> header = SplitCsvLine(line);
+  const std::vector<std::string> required = {"date", "time", "lat", "lon", "tz", "ayanamsa"};
+  const std::vector<std::string> custom = {"date", "time", "lat", "lon", "tz", "ayanamsa", "zero_year", "progress"};
+  if (header != required && header != custom) {
+    session.err << "kelvaro-cli: batch file \"" << path
+                << "\": the header must be date,time,lat,lon,tz,ayanamsa (optionally ,zero_year,progress)\n";
+    session.status = kExitBadInput;
+    return;
+  }
+  long rowNumber = 1;  // the header is row 1
+  long rows = 0, rejected = 0, failed = 0;
+  std::string buffer;
+  while (std::getline(in, line)) {
+    ++rowNumber;
+    if (line.empty() || line == "\r") continue;
+    ++rows;
+    const std::vector<std::string> f = SplitCsvLine(line);
+    if (f.size() != header.size()) {
+      session.err << "kelvaro-cli: row " << rowNumber << ": expected " << header.size() << " fields, found "
+                  << f.size() << "\n";
+      ++rejected;
+      continue;
+    }
+    BirthText text{f[0], f[1], f[2], f[3], f[4], f[5], std::nullopt, std::nullopt};
+    if (f.size() == 8 && !f[6].empty()) text.zeroYear = f[6];
+    if (f.size() == 8 && !f[7].empty()) text.progress = f[7];
+    try {
+      std::optional<InputError> error;
+      const HoroscopeState s = Calculate(text, "", error);
+      if (error) {
+        session.err << "kelvaro-cli: row " << rowNumber << ": " << error->Message() << "\n";
+        ++rejected;
+        continue;
+      }
+      buffer += PositionsJson(s).dump();
+      buffer += '\n';
+      if (buffer.size() > (1 << 16)) {
+        session.out << buffer;
+        buffer.clear();
+      }
+    } catch (const CalculationError& e) {
+      session.err << "kelvaro-cli: row " << rowNumber << ": " << e.what() << "\n";
+      ++failed;
+    }
+  }
+  session.out << buffer;
+  session.out.flush();
+  if (rejected + failed > 0) {
+    session.err << "kelvaro-cli: " << (rejected + failed) << " of " << rows << " rows rejected\n";
+    session.status = rejected > 0 ? kExitBadInput : kExitFailure;
+  }
+}
+
+}  // namespace
+
+void RegisterPositionsCommand(CLI::App& app, Session& session) {
+  auto* cmd = app.add_subcommand("positions", "Sidereal positions, sunrise and sunset, Gulika and Maandi of a birth");
+  auto text = std::make_shared<BirthText>();
+  auto zeroYear = std::make_shared<std::string>();
+  auto progress = std::make_shared<std::string>();
+  auto json = std::make_shared<bool>(false);
+  auto batch = std::make_shared<std::string>();
+  text->ayanamsa = "Lahiri";
+  auto* date = cmd->add_option("--date", text->date, "Date of birth, DD/MM/YYYY");
+  auto* time = cmd->add_option("--time", text->time, "Clock time of birth, HH:MM on a 24-hour clock");
+  auto* lat = cmd->add_option("--lat", text->lat, "Latitude, DEG{N|S}MIN, e.g. 17N20");
+  auto* lon = cmd->add_option("--lon", text->lon, "Longitude, DEG{E|W}MIN, e.g. 78E30");
+  auto* tz = cmd->add_option("--tz", text->tz, "Time zone, HOURS{E|W}, e.g. 5.5E or 8W");
+  cmd->add_option("--ayanamsa", text->ayanamsa, "Lahiri, Raman, KP, Sayana or Custom")->capture_default_str();
+  auto* zy = cmd->add_option("--zero-year", *zeroYear, "Zero year of the Custom ayanamsa");
+  auto* pr = cmd->add_option("--progress", *progress, "Yearly progress of the Custom ayanamsa, seconds of arc");
+  cmd->add_flag("--json", *json, "Print one JSON object instead of the table");
+  auto* b = cmd->add_option("--batch", *batch, "CSV file with the header date,time,lat,lon,tz,ayanamsa");
+  for (auto* o : {date, time, lat, lon, tz}) b->excludes(o);
+  cmd->callback([&session, text, zeroYear, progress, json, batch, b, date, time, lat, lon, tz, zy, pr]() {
+    if (b->count() > 0) {
+      RunBatch(*batch, session);
+      return;
+    }
+    for (auto* o : {date, time, lat, lon, tz}) {
+      if (o->count() == 0) {
+        session.err << "kelvaro-cli: " << o->get_name() << " is required (or give --batch FILE)\n";
+        session.status = kExitBadInput;
+        return;
+      }
+    }
+    if (zy->count() > 0) text->zeroYear = *zeroYear;
+    if (pr->count() > 0) text->progress = *progress;
+    std::optional<InputError> error;
+    const HoroscopeState s = Calculate(*text, "--", error);
+    if (error) {
+      session.err << "kelvaro-cli: " << error->Message() << "\n";
+      session.status = kExitBadInput;
+      return;
+    }
+    if (*json) {
+      session.out << PositionsJson(s).dump(2) << "\n";
+    } else {
+      session.out << PositionsTable(s);
+    }
+  });
+}
 
 }  // namespace kelvaro::cli

@@ -1,6 +1,7 @@
 #include "common/date_text.h"
 
 #include <cctype>
+#include <cmath>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -19,18 +20,34 @@ std::string Lower(std::string_view s) {
   return out;
 }
 
-std::string TwoDigits(int v) {
-  char buf[16];
-  std::snprintf(buf, sizeof buf, "%02d", v);
-  return buf;
+void AppendTwoDigits(std::string& out, int v) {
+  if (v < 0 || v > 99) {
+    out += std::to_string(v);
+    return;
+  }
+  out += static_cast<char>('0' + v / 10);
+  out += static_cast<char>('0' + v % 10);
 }
 
+// ASCII only: patterns are our own fixed texts.
+constexpr char LowerChar(char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; }
+
 size_t RunLength(std::string_view s, size_t i) {
-  const char c = static_cast<char>(std::tolower(static_cast<unsigned char>(s[i])));
+  const char c = LowerChar(s[i]);
   size_t j = i;
-  while (j < s.size() && std::tolower(static_cast<unsigned char>(s[j])) == c) ++j;
+  while (j < s.size() && LowerChar(s[j]) == c) ++j;
   return j - i;
 }
+
+bool StartsWithNoCase(std::string_view s, size_t at, std::string_view word) {
+  if (s.size() - at < word.size()) return false;
+  for (size_t k = 0; k < word.size(); ++k) {
+    if (LowerChar(s[at + k]) != word[k]) return false;
+  }
+  return true;
+}
+
+size_t RunLength(std::string_view s, size_t i);
 
 }  // namespace
 
@@ -46,50 +63,68 @@ std::string MonthName(int month, bool abbreviated) {
 }
 
 std::string FormatDate(OleDate moment, std::string_view pattern) {
-  const DateParts p = moment.Parts();
-  const std::string lower = Lower(pattern);
-  const bool twelveHour = lower.find("am/pm") != std::string::npos;
+  // The clock is cheap to read; the calendar date is read only when the
+  // pattern asks for it (the clock texts of the day's parts never do).
+  const double secondsOfDay = std::floor(moment.Linear() * 86400.0 + 0.5);
+  const auto clock = static_cast<long long>(secondsOfDay - std::floor(secondsOfDay / 86400.0) * 86400.0);
+  DateParts p;
+  p.hour = static_cast<int>(clock / 3600);
+  p.minute = static_cast<int>(clock / 60 % 60);
+  p.second = static_cast<int>(clock % 60);
+  bool haveDate = false;
+  const auto needDate = [&]() {
+    if (!haveDate) p = moment.Parts();
+    haveDate = true;
+  };
+  bool twelveHour = false;
+  for (size_t i = 0; i < pattern.size() && !twelveHour; ++i) twelveHour = StartsWithNoCase(pattern, i, "am/pm");
   std::string out;
   bool afterHour = false;  // an m/mm right after an hour token means minutes
   for (size_t i = 0; i < pattern.size();) {
-    const char c = lower[i];
-    if (lower.compare(i, 5, "am/pm") == 0) {
+    const char c = LowerChar(pattern[i]);
+    if (c == 'a' && StartsWithNoCase(pattern, i, "am/pm")) {
       const bool upper = pattern[i] == 'A';
       out += p.hour < 12 ? (upper ? "AM" : "am") : (upper ? "PM" : "pm");
       i += 5;
       continue;
     }
     const size_t run = RunLength(pattern, i);
+    if (c == 'd' || c == 'y' || (c == 'm' && !(afterHour && run <= 2))) needDate();
     switch (c) {
       case 'd':
         if (run == 1) out += std::to_string(p.day);
-        else if (run == 2) out += TwoDigits(p.day);
+        else if (run == 2) AppendTwoDigits(out, p.day);
         else out += run == 3 ? WeekdayName(moment.Weekday()).substr(0, 3) : WeekdayName(moment.Weekday());
         break;
       case 'm':
         if (afterHour && run <= 2) {
-          out += run == 1 ? std::to_string(p.minute) : TwoDigits(p.minute);
+          if (run == 1) out += std::to_string(p.minute);
+          else AppendTwoDigits(out, p.minute);
         } else if (run <= 2) {
-          out += run == 1 ? std::to_string(p.month) : TwoDigits(p.month);
+          if (run == 1) out += std::to_string(p.month);
+          else AppendTwoDigits(out, p.month);
         } else {
           out += MonthName(p.month, run == 3);
         }
         break;
       case 'y':
-        if (run <= 2) out += TwoDigits(p.year % 100);
+        if (run <= 2) AppendTwoDigits(out, p.year % 100);
         else out += std::to_string(p.year);
         break;
       case 'h': {
         int h = p.hour;
         if (twelveHour) h = h % 12 == 0 ? 12 : h % 12;
-        out += run == 1 ? std::to_string(h) : TwoDigits(h);
+        if (run == 1) out += std::to_string(h);
+        else AppendTwoDigits(out, h);
         break;
       }
       case 'n':
-        out += run == 1 ? std::to_string(p.minute) : TwoDigits(p.minute);
+        if (run == 1) out += std::to_string(p.minute);
+        else AppendTwoDigits(out, p.minute);
         break;
       case 's':
-        out += run == 1 ? std::to_string(p.second) : TwoDigits(p.second);
+        if (run == 1) out += std::to_string(p.second);
+        else AppendTwoDigits(out, p.second);
         break;
       default:
         out.append(pattern.substr(i, run));

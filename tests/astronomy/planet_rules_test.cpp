@@ -200,8 +200,8 @@ TEST(Facade, CustomInputsOnlyForCustomAndDaylightIgnored) {
   EXPECT_EQ(fresh.FnFindMoonPosition(), 0.0);  // the getters do not calculate
 }
 
-TEST(Facade, SunMoonProbeGivesTheWholeCalculationsValues) {
-  ClsFindPlanetPosition whole, probe;
+TEST(Facade, ProbesGiveTheWholeCalculationsValues) {
+  ClsFindPlanetPosition whole, probe, lagnaProbe;
   const std::vector<std::string> kinds = {"Lahiri", "Raman", "KP", "Sayana", "Custom"};
   int i = 0;
   for (double serial = -20000; serial < 70000; serial += 997.37, ++i) {
@@ -212,6 +212,9 @@ TEST(Facade, SunMoonProbeGivesTheWholeCalculationsValues) {
     EXPECT_EQ(probe.FnFindSunPosition(), whole.FnFindSunPosition()) << serial;
     EXPECT_EQ(probe.FnFindMoonPosition(), whole.FnFindMoonPosition()) << serial;
     EXPECT_EQ(probe.FnFindAyanamsa(), whole.FnFindAyanamsa()) << serial;
+    lagnaProbe.FindLagnaValues(m, "S", 33, 52, "W", 151, 12, 10, "E", 0, kind, 285, 50.2388475);
+    EXPECT_EQ(lagnaProbe.FnFindLagnaPosition(), whole.FnFindLagnaPosition()) << serial;
+    EXPECT_EQ(lagnaProbe.FnFindMidHeaven(), whole.FnFindMidHeaven()) << serial;
   }
 }
 

@@ -1,0 +1,139 @@
+// ComputeChartPositions: one position pass of the calculation.
+#include <string>
+
+#include "common/calculation_error.h"
+#include "common/date_text.h"
+#include "horoscope/calculation_context.h"
+
+namespace kelvaro {
+
+namespace {
+
+OleDate SunriseOn(CalculationContext& ctx, OleDate date) {
+  const HoroscopeState& s = ctx.state;
+  return ctx.sunrise.FnFindSunrise(date, s.LatNS, s.LatDeg, s.LatMin, s.LonEW, s.LonDeg, s.LonMin, 0, s.TimeDiff,
+                                   s.TimeDiffEW);
+}
+
+OleDate SunsetOn(CalculationContext& ctx, OleDate date) {
+  const HoroscopeState& s = ctx.state;
+  return ctx.sunset.FnFindSunset(date, s.LatNS, s.LatDeg, s.LatMin, s.LonEW, s.LonDeg, s.LonMin, 0, s.TimeDiff,
+                                 s.TimeDiffEW);
+}
+
+// The date of `day` joined to the clock of `clock`, to the whole minute, as
+// "dd/mmm/yyyy" and "hh:mm AM/PM" texts joined and read back give it.
+OleDate JoinDateAndClock(OleDate day, OleDate clock) {
+  const DateParts d = day.Parts();
+  const DateParts c = clock.Parts();
+  return OleDate::FromParts(d.year, d.month, d.day, c.hour, c.minute, 0);
+}
+
+bool IsAm(OleDate moment) { return moment.Hour() < 12; }
+
+// The Lagna of a moment, with the ayanamsa in force. Only the Lagna is read,
+// so only the Lagna is worked out; it is the value a whole calculation gives.
+double LagnaAt(CalculationContext& ctx, OleDate moment) {
+  const HoroscopeState& s = ctx.state;
+  ctx.positions.FindLagnaValues(moment, s.LatNS, s.LatDeg, s.LatMin, s.LonEW, s.LonDeg, s.LonMin, s.TimeDiff,
+                              s.TimeDiffEW, 0, s.AyanamsaInForce, s.YearInForce, s.ProgressInForce);
+  return ctx.positions.FnFindLagnaPosition();
+}
+
+}  // namespace
+
+void ComputeChartPositions(CalculationContext& ctx, double division) {
+  HoroscopeState& s = ctx.state;
+
+  // 1. The moment in force, rebuilt from the birth text fields.
+  const std::string text =
+      s.BirthDay + "/" + s.BirthMonth + "/" + s.BirthYear + " " + s.BirthHour + ":" + s.BirthMinute + ": 00";
+  const auto moment = ParseDateTime(text);
+  if (!moment) throw CalculationError("The birth date and time \"" + text + "\" is not a valid moment");
+  s.BirthMomentDate = *moment;
+
+  // 2, 3. The positions of the moment.
+  ClsFindPlanetPosition& f = ctx.positions;
+  f.FindFixValues(s.BirthMomentDate, s.LatNS, s.LatDeg, s.LatMin, s.LonEW, s.LonDeg, s.LonMin, s.TimeDiff,
+                  s.TimeDiffEW, 0, s.AyanamsaName, s.YearInForce, s.ProgressInForce);
+  s.LagnaLon = f.FnFindLagnaPosition();
+  s.SunLon = f.FnFindSunPosition();
+  s.MoonLon = f.FnFindMoonPosition();
+  s.MarsLon = f.FnFindMarsPosition();
+  s.MercuryLon = f.FnFindMercuryPosition();
+  s.JupiterLon = f.FnFindJupiterPosition();
+  s.VenusLon = f.FnFindVenusPosition();
+  s.SaturnLon = f.FnFindSaturnPosition();
+  s.RahuLon = f.FnFindRahuPosition();
+  s.KetuLon = f.FnFindKethuPosition();
+  s.MidHeaven = f.FnFindMidHeaven();
+  s.Ayanamsa = f.FnFindAyanamsa();
+
+  // 4. Rasi numbers under the division of this pass.
+  s.LagnaRasi = RasiOfLongitude(s.LagnaLon, division);
+  s.SunRasi = RasiOfLongitude(s.SunLon, division);
+  s.MoonRasi = RasiOfLongitude(s.MoonLon, division);
+  s.MarsRasi = RasiOfLongitude(s.MarsLon, division);
+  s.MercuryRasi = RasiOfLongitude(s.MercuryLon, division);
+  s.JupiterRasi = RasiOfLongitude(s.JupiterLon, division);
+  s.VenusRasi = RasiOfLongitude(s.VenusLon, division);
+  s.SaturnRasi = RasiOfLongitude(s.SaturnLon, division);
+  s.RahuRasi = RasiOfLongitude(s.RahuLon, division);
+  s.KetuRasi = RasiOfLongitude(s.KetuLon, division);
+
+  // 5. The limits of the civil date.
+  s.SunriseOfBirthDay = SunriseOn(ctx, s.BirthMomentDate);
+  s.SunsetOfBirthDay = SunsetOn(ctx, s.BirthMomentDate);
+  s.SunriseNextDay = SunriseOn(ctx, DateAdd(Interval::Day, 1, s.BirthMomentDate));
+
+  // 6. Day or night: both limits lie outside the day, so a birth exactly at
+  // sunrise or sunset is a night birth.
+  if (s.BirthMomentDate > s.SunriseOfBirthDay && s.BirthMomentDate < s.SunsetOfBirthDay) {
+    s.DayOrNight = "Day";
+    s.DayCurrentDate = s.BirthMomentDate;
+    s.DaySunrise = s.SunriseOfBirthDay;
+    s.DaySunset = s.SunsetOfBirthDay;
+    s.DayNextSunrise = s.SunriseNextDay;
+  } else {
+    s.DayOrNight = "Night";
+    // After midnight and before sunrise the astrological day is the one before.
+    s.DayCurrentDate = IsAm(s.BirthMomentDate) ? DateAdd(Interval::Day, -1, s.BirthMomentDate) : s.BirthMomentDate;
+    s.DaySunrise = SunriseOn(ctx, s.DayCurrentDate);
+    s.DaySunset = SunsetOn(ctx, s.DayCurrentDate);
+    s.DayNextSunrise = SunriseOn(ctx, DateAdd(Interval::Day, 1, s.DayCurrentDate));
+  }
+
+  // 7. The day and night parts.
+  clsTimes& t = ctx.times;
+  t.currentdate = s.DayCurrentDate;
+  t.Sunrisetime = s.DaySunrise;
+  t.Sunsettime = s.DaySunset;
+  t.SunRiseNexttime = s.DayNextSunrise;
+  t.findtimes();
+  s.GulikaDay = t.GulikaRise_Day;
+  s.GulikaNight = t.GulikaRise_Night;
+  s.MandiDay = t.MandiRise_Day;
+  s.MandiNight = t.MandiRise_Night;
+
+  // 8. The rise moments joined to their dates. A night rise after midnight
+  // falls on the day after the sunrise's; the date found also becomes
+  // DayCurrentDate.
+  if (s.DayOrNight == "Day") {
+    s.GulikaMoment = JoinDateAndClock(s.DaySunrise, s.GulikaDay);
+    s.MandiMoment = JoinDateAndClock(s.DaySunrise, s.MandiDay);
+  } else {
+    s.DayCurrentDate = IsAm(s.GulikaNight) ? DateAdd(Interval::Day, 1, s.DaySunrise) : s.DaySunrise;
+    s.GulikaMoment = JoinDateAndClock(s.DayCurrentDate, s.GulikaNight);
+    s.DayCurrentDate = IsAm(s.MandiNight) ? DateAdd(Interval::Day, 1, s.DaySunrise) : s.DaySunrise;
+    s.MandiMoment = JoinDateAndClock(s.DayCurrentDate, s.MandiNight);
+  }
+
+  // 9. Gulika and Maandi are the Lagnas of those moments. The facade is left
+  // holding the Maandi moment; every later reader calls FindFixValues first.
+  s.GulikaLon = LagnaAt(ctx, s.GulikaMoment);
+  s.GulikaRasi = RasiOfLongitude(s.GulikaLon, division);
+  s.MaandiLon = LagnaAt(ctx, s.MandiMoment);
+  s.MaandiRasi = RasiOfLongitude(s.MaandiLon, division);
+}
+
+}  // namespace kelvaro

@@ -1,0 +1,166 @@
+// kelvaro-cli positions: the JSON contract, the table, bad input and batches.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <nlohmann/json.hpp>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "astronomy/find_planet_position.h"
+#include "cli/cli.h"
+
+namespace kelvaro::cli {
+namespace {
+
+struct CliRun {
+  int status;
+  std::string out, err;
+};
+
+CliRun RunArgs(std::vector<std::string> args) {
+  args.insert(args.begin(), "kelvaro-cli");
+  std::vector<const char*> argv;
+  for (const auto& a : args) argv.push_back(a.c_str());
+  std::ostringstream out, err;
+  const int status = RunCli(static_cast<int>(argv.size()), argv.data(), out, err);
+  return {status, out.str(), err.str()};
+}
+
+std::vector<std::string> Sample(std::vector<std::string> extra = {}) {
+  std::vector<std::string> a = {"positions", "--date", "14/07/1965", "--time", "14:15", "--lat",
+                                "17N20",     "--lon",  "78E30",      "--tz",   "5.5E"};
+  a.insert(a.end(), extra.begin(), extra.end());
+  return a;
+}
+
+std::vector<std::string> Lines(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream in(text);
+  for (std::string line; std::getline(in, line);) lines.push_back(line);
+  return lines;
+}
+
+TEST(PositionsCommand, JsonCarriesEveryKeyInOrder) {
+  const CliRun r = RunArgs(Sample({"--ayanamsa", "Lahiri", "--json"}));
+  ASSERT_EQ(r.status, 0) << r.err;
+  const auto j = nlohmann::ordered_json::parse(r.out);
+  std::vector<std::string> keys;
+  for (const auto& item : j.items()) keys.push_back(item.key());
+  EXPECT_EQ(keys, (std::vector<std::string>{"lagna", "sun", "moon", "mars", "mercury", "jupiter", "venus", "saturn",
+                                            "rahu", "ketu", "midheaven", "ayanamsa", "sunrise", "sunset",
+                                            "day_or_night", "gulika", "maandi", "rasi"}));
+  // The numbers are the facade's, to the last digit.
+  ClsFindPlanetPosition f;
+  f.FindFixValues(OleDate::FromParts(1965, 7, 14, 14, 15), "N", 17, 20, "E", 78, 30, 5.5, "E", 0, "Lahiri", 0, 0);
+  EXPECT_EQ(j["moon"].get<double>(), f.FnFindMoonPosition());
+  EXPECT_EQ(j["lagna"].get<double>(), f.FnFindLagnaPosition());
+  EXPECT_EQ(j["ayanamsa"].get<double>(), f.FnFindAyanamsa());
+  EXPECT_EQ(j["midheaven"].get<double>(), f.FnFindMidHeaven());
+  EXPECT_EQ(j["day_or_night"], "Day");
+  EXPECT_EQ(j["sunrise"].get<std::string>().substr(0, 11), "14/07/1965 ");
+  EXPECT_EQ(j["sunrise"].get<std::string>().size(), 16u);  // DD/MM/YYYY HH:MM
+  EXPECT_EQ(j["rasi"].size(), 12u);
+  EXPECT_EQ(j["rasi"]["moon"], 10);
+  EXPECT_EQ(j["rasi"]["gulika"], 6);
+}
+
+TEST(PositionsCommand, TableShowsDegreesAndRasiNames) {
+  const CliRun r = RunArgs(Sample());
+  ASSERT_EQ(r.status, 0) << r.err;
+  EXPECT_NE(r.out.find("Moon          275°27'22\"  Capricon"), std::string::npos) << r.out;
+  EXPECT_NE(r.out.find("Ayanamsa      -23°22'20\"  (Lahiri)"), std::string::npos) << r.out;
+}
+
+TEST(PositionsCommand, BadInputNamesTheFieldAndPrintsNothing) {
+  struct Case {
+    std::vector<std::string> args;
+    std::string message;
+  } cases[] = {
+      {{"positions", "--date", "31/02/1965", "--time", "14:15", "--lat", "17N20", "--lon", "78E30", "--tz", "5.5E"},
+       "--date \"31/02/1965\": there is no such day"},
+      {{"positions", "--date", "14/07/1965", "--time", "14:75", "--lat", "17N20", "--lon", "78E30", "--tz", "5.5E"},
+       "--time \"14:75\": minute must be 0 to 59"},
+      {{"positions", "--date", "14/07/1965", "--time", "14:15", "--lat", "95N00", "--lon", "78E30", "--tz", "5.5E"},
+       "--lat \"95N00\": degrees must be 0 to 90"},
+      {{"positions", "--date", "14/07/1965", "--time", "14:15", "--lat", "17N20", "--lon", "78X30", "--tz", "5.5E"},
+       "--lon \"78X30\""},
+      {{"positions", "--date", "14/07/1965", "--time", "14:15", "--lat", "17N20", "--lon", "78E30", "--tz", "15E"},
+       "--tz \"15E\": a zone is at most 14 hours from Greenwich"},
+      {Sample({"--ayanamsa", "lahiri"}), "--ayanamsa \"lahiri\""},
+      {Sample({"--ayanamsa", "Custom"}), "--zero-year"},
+      {Sample({"--ayanamsa", "Custom", "--zero-year", "abc", "--progress", "50"}), "--zero-year \"abc\""},
+  };
+  for (const auto& c : cases) {
+    const CliRun r = RunArgs(c.args);
+    EXPECT_EQ(r.status, kExitBadInput) << c.message;
+    EXPECT_TRUE(r.out.empty()) << c.message;
+    EXPECT_NE(r.err.find(c.message), std::string::npos) << r.err;
+    EXPECT_EQ(Lines(r.err).size(), 1u) << r.err;
+  }
+}
+
+TEST(PositionsCommand, CustomAyanamsaTakesItsYearAndProgress) {
+  const CliRun r = RunArgs(Sample({"--ayanamsa", "Custom", "--zero-year", "397", "--progress", "50.2388475", "--json"}));
+  ASSERT_EQ(r.status, 0) << r.err;
+  ClsFindPlanetPosition f;
+  f.FindFixValues(OleDate::FromParts(1965, 7, 14, 14, 15), "N", 17, 20, "E", 78, 30, 5.5, "E", 0, "Custom", 397,
+                  50.2388475);
+  EXPECT_EQ(nlohmann::json::parse(r.out)["ayanamsa"].get<double>(), f.FnFindAyanamsa());
+}
+
+class BatchFile : public ::testing::Test {
+ protected:
+  std::filesystem::path path_ = std::filesystem::temp_directory_path() /
+                                ("kelvaro_batch_" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
+                                 "_" + ::testing::UnitTest::GetInstance()->current_test_info()->name() + ".csv");
+  void Write(const std::string& text) { std::ofstream(path_) << text; }
+  void TearDown() override { std::filesystem::remove(path_); }
+};
+
+TEST_F(BatchFile, GoodRowsPrintInOrderAndBadRowsAreCounted) {
+  Write(
+      "date,time,lat,lon,tz,ayanamsa\n"
+      "14/07/1965,14:15,17N20,78E30,5.5E,Lahiri\n"
+      "31/02/1965,14:15,17N20,78E30,5.5E,Lahiri\n"
+      "14/07/1965,14:15,17N20\n"
+      "01/01/2000,00:00,51N30,0W07,0E,KP\r\n"
+      "\n"
+      "14/07/1965,14:15,17N20,78E30,5.5E,Sayana\n");
+  const CliRun r = RunArgs({"positions", "--batch", path_.string()});
+  EXPECT_EQ(r.status, kExitBadInput);
+  const auto out = Lines(r.out);
+  ASSERT_EQ(out.size(), 3u);
+  // Order kept: the Lahiri row, the KP row of 2000, the Sayana row.
+  EXPECT_EQ(nlohmann::json::parse(out[0])["rasi"]["moon"], 10);
+  EXPECT_NEAR(nlohmann::json::parse(out[1])["ayanamsa"].get<double>(), -23.76, 0.02);
+  EXPECT_EQ(nlohmann::json::parse(out[2])["ayanamsa"].get<double>(), 0.0);
+  const auto err = Lines(r.err);
+  ASSERT_EQ(err.size(), 3u);
+  EXPECT_NE(err[0].find("row 3: date \"31/02/1965\""), std::string::npos) << err[0];
+  EXPECT_NE(err[1].find("row 4: expected 6 fields, found 3"), std::string::npos) << err[1];
+  EXPECT_NE(err[2].find("2 of 5 rows rejected"), std::string::npos) << err[2];
+}
+
+TEST_F(BatchFile, SameAnswerAsOneBirthAtATime) {
+  Write("date,time,lat,lon,tz,ayanamsa\n14/07/1965,14:15,17N20,78E30,5.5E,Lahiri\n");
+  const CliRun batch = RunArgs({"positions", "--batch", path_.string()});
+  const CliRun single = RunArgs(Sample({"--json"}));
+  ASSERT_EQ(batch.status, 0) << batch.err;
+  EXPECT_EQ(nlohmann::json::parse(batch.out), nlohmann::json::parse(single.out));
+}
+
+TEST_F(BatchFile, WrongHeaderOrMissingFileIsRefused) {
+  Write("date,time,latitude,lon,tz,ayanamsa\n14/07/1965,14:15,17N20,78E30,5.5E,Lahiri\n");
+  const CliRun r = RunArgs({"positions", "--batch", path_.string()});
+  EXPECT_EQ(r.status, kExitBadInput);
+  EXPECT_TRUE(r.out.empty());
+  EXPECT_NE(r.err.find("header"), std::string::npos);
+  const CliRun missing = RunArgs({"positions", "--batch", (path_.string() + ".none")});
+  EXPECT_EQ(missing.status, kExitFailure);
+  EXPECT_NE(missing.err.find("cannot open"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace kelvaro::cli
