@@ -75,26 +75,27 @@ void ClsPlanet::SplitBirthDateTime() {
 
 namespace {
 
-// The text a number shows when it is joined into a string: whole values
-// without a point, others to 15 significant digits.
-std::string NumberText(double x) {
-  char buf[40];
+// Writes the text a number shows when it is joined into a string: whole
+// values without a point, others to 15 significant digits. Returns the end.
+char* WriteNumberText(char* first, char* last, double x) {
   if (x == std::trunc(x) && std::fabs(x) < 1e15) {
-    auto r = std::to_chars(buf, buf + sizeof buf, static_cast<long long>(x));
-    return std::string(buf, r.ptr);
+    return std::to_chars(first, last, static_cast<long long>(x)).ptr;
   }
-  std::snprintf(buf, sizeof buf, "%.15G", x);
-  return buf;
+  const int n = std::snprintf(first, static_cast<size_t>(last - first), "%.15G", x);
+  return first + n;
 }
 
-// Reads a number joined from two texts back; the join is not always a number.
-double NumberOfText(const std::string& text) {
+// Joins degrees, "." and minutes times 60 as text and reads the text back as
+// a number. The join is not always a number ("78.0.6" for 0.01 minutes).
+double JoinedLongitude(double degrees, double minutes) {
+  char text[80];
+  char* end = WriteNumberText(text, text + 38, degrees);
+  *end++ = '.';
+  end = WriteNumberText(end, end + 38, minutes * 60);
   double value = 0;
-  const char* first = text.data();
-  const char* last = text.data() + text.size();
-  auto r = std::from_chars(first, last, value);
-  if (r.ec != std::errc() || r.ptr != last) {
-    throw CalculationError("Type mismatch: the longitude text \"" + text + "\" is not a number");
+  const auto r = std::from_chars(text, end, value);
+  if (r.ec != std::errc() || r.ptr != end) {
+    throw CalculationError("Type mismatch: the longitude text \"" + std::string(text, end) + "\" is not a number");
   }
   return value;
 }
@@ -114,13 +115,15 @@ double SiderealAngleHours(double dayNumber, double calendarYear, double hours) {
 void ClsPlanet::FnFindLocalSiderealTime() {
   UniversalHours = MinuteOfHour / 60.0 + HourOfDay - TZone - DSAVE;
   FnFindDayNumber();
-  const double L = NumberOfText(NumberText(CL_LongitudeDeg) + "." + NumberText(CL_LongitudeMin * 60));
+  const double L = JoinedLongitude(CL_LongitudeDeg, CL_LongitudeMin);
   const double Z = TZone * 15;
   const double d = L < Z ? Z - L : Z + L;
   OleDate local = DateAdd(Interval::Minute, -(Int(d) * 4), BirthDateTime);
   local = DateAdd(Interval::Second, -RoundHalfEven((d - Int(d)) * 4, 1), local);
-  const DateParts p = local.Parts();  // the clock as "HH:MM AM/PM" shows it
-  const double hours = p.hour + p.minute / 60.0 - TZone - DSAVE;
+  // The clock as "HH:MM AM/PM" shows it, to the second rounded.
+  const double clockSeconds = std::floor(local.Linear() * 86400.0 + 0.5);
+  const double secondsOfDay = clockSeconds - std::floor(clockSeconds / 86400.0) * 86400.0;
+  const double hours = std::floor(secondsOfDay / 3600) + std::floor(std::fmod(secondsOfDay, 3600) / 60) / 60.0 - TZone - DSAVE;
   const double G = SiderealAngleHours(DayNumber, CalendarYear, hours);
   SiderealHours = (G / 24 - Int(G / 24)) * 24 + TZone;
 }
