@@ -1,0 +1,153 @@
+// The year-start rule on hand-worked rows, and the sixty seed rows of
+// KaliyugaYearDetails against the Sun's entry into sidereal Aries.
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <map>
+#include <sstream>
+#include <string>
+
+#include "astronomy/find_planet_position.h"
+#include "astronomy/find_sunrise.h"
+#include "astronomy/find_sunset.h"
+#include "common/date_text.h"
+#include "panchanga/solar_year.h"
+
+namespace kelvaro {
+namespace {
+
+class Table : public KaliyugaYearTable {
+ public:
+  std::map<int, KaliyugaYearValues> rows;
+  std::optional<KaliyugaYearValues> Row(int yearno) const override {
+    const auto it = rows.find(yearno);
+    if (it == rows.end()) return std::nullopt;
+    return it->second;
+  }
+};
+
+// Every day has sunrise 06:00 and sunset 18:30.
+SunTimes FixedDay(OleDate date) {
+  return {OleDate::FromParts(date.Year(), date.Month(), date.Day(), 6, 0),
+          OleDate::FromParts(date.Year(), date.Month(), date.Day(), 18, 30)};
+}
+
+TEST(SolarYear, WeekdayNamesAndYearNumbers) {
+  EXPECT_EQ(WeekdayNameOf(1), "Sunday");
+  EXPECT_EQ(WeekdayNameOf(7), "Saturday");
+  EXPECT_EQ(WeekdayNameOf(8), "Sunday");
+  EXPECT_EQ(WeekdayNameOf(15), "Sunday");
+  EXPECT_EQ(WeekdayNameOf(0), "");
+  struct Case {
+    int year, number;
+  } cases[] = {{1987, 1}, {1986, 60}, {2046, 60}, {2047, 1}, {2106, 60}, {2107, 61}, {1926, 60}, {1900, 34}};
+  for (const auto& c : cases) EXPECT_EQ(KaliyugaYearNumber(c.year), c.number) << c.year;
+}
+
+TEST(SolarYear, CandidateAndFractionRules) {
+  // 2000, Yearno 14, period 1986-2045: f = YearRemain + 0.7609, weekday sum
+  // Int(f) + DayVal + 1. 12 April 2000 was a Wednesday (4).
+  struct Case {
+    double remain;
+    int dayVal;
+    int day, hour;  // expected year start: that April day's sunrise (06:00)
+    const char* why;
+  } cases[] = {
+      {0.2391, 2, 12, 6, "f = 1.0: Wednesday, 12 April, at sunrise"},
+      {0.2391, 4, 14, 6, "Friday: the third candidate"},
+      {0.2391, 6, 16, 6, "a sum of 8 folds to Sunday: the fifth candidate"},
+      {0.2391, 9, 12, 6, "a sum of 11 folds by 7 to 4: Wednesday"},
+      {0.7391, 2, 12, 6, "f = 1.5: twelve hours after sunrise is 18:00, before sunset"},
+      {0.7791, 2, 12, 6, "f = 1.54: 12 h and 23 min (the fraction of the hours times 24) is 18:23"},
+      {0.7891, 2, 13, 6, "f = 1.55: 13 h and 4 min is 19:04, after sunset: the next sunrise"},
+  };
+  for (const auto& c : cases) {
+    Table t;
+    t.rows[14] = {"Vikrama", 2000, static_cast<std::int16_t>(c.dayVal), c.remain};
+    const auto start = FindYearStart(2000, t, FixedDay);
+    ASSERT_TRUE(start.has_value()) << c.why;
+    EXPECT_EQ(FormatDate(*start, "DD/MM/YYYY HH:NN"), FormatDate(OleDate::FromParts(2000, 4, c.day, c.hour, 0),
+                                                                 "DD/MM/YYYY HH:NN"))
+        << c.why;
+  }
+}
+
+TEST(SolarYear, PeriodsAndMissingRows) {
+  Table t;
+  // 1900 (Yearno 34, first period: +0.7189, +4): YearRemain 0.5 gives Int(f) 1,
+  // DayVal -3 a sum of 2, Monday, which is 16 April 1900: the fifth
+  // candidate, which the first period does not try.
+  t.rows[34] = {"Pramadi", 1900, -3, 0.5};
+  EXPECT_FALSE(FindYearStart(1900, t, FixedDay).has_value());
+  // 1930 (Yearno 4, second period: +0.2397, +3): 16 April 1930 was a
+  // Wednesday (4); YearRemain 0.7603 gives f = 1.0, so DayVal 0 sums to 4.
+  t.rows[4] = {"Pramoda", 1930, 0, 0.7603};
+  const auto start = FindYearStart(1930, t, FixedDay);
+  ASSERT_TRUE(start.has_value());
+  EXPECT_EQ(start->Day(), 16);
+  // No correction before 1866, and no row, give no start.
+  t.rows[40] = {"Paridhavi", 1846, 1, 0.1};
+  EXPECT_FALSE(FindYearStart(1846, t, FixedDay).has_value());
+  EXPECT_FALSE(FindYearStart(1999, t, FixedDay).has_value());
+}
+
+// The sixty rows of the seed file.
+Table SeedRows() {
+  Table t;
+  std::ifstream in(std::string(KELVARO_DATA_DIR) + "/kaliyuga_years.csv");
+  std::string line;
+  std::getline(in, line);
+  while (std::getline(in, line)) {
+    std::istringstream f(line);
+    std::string yearno, name, yearVal, dayVal, remain;
+    std::getline(f, yearno, ',');
+    std::getline(f, name, ',');
+    std::getline(f, yearVal, ',');
+    std::getline(f, dayVal, ',');
+    std::getline(f, remain, ',');
+    t.rows[std::stoi(yearno)] = {name, std::stod(yearVal), static_cast<std::int16_t>(std::stoi(dayVal)),
+                                 std::stod(remain)};
+  }
+  return t;
+}
+
+SunTimes Ujjain(OleDate date) {
+  clsFindSunrise rise;
+  clsFindSunSet set;
+  return {rise.FnFindSunrise(date, "N", 23, 11, "E", 75, 46, 0, 5.5, "E"),
+          set.FnFindSunset(date, "N", 23, 11, "E", 75, 46, 0, 5.5, "E")};
+}
+
+// The first minute of April at which the Sun's sidereal (Lahiri) longitude has
+// passed 0 Aries, by stepping hours and then minutes.
+OleDate AriesEntry(int year) {
+  ClsFindPlanetPosition f;
+  auto passed = [&](OleDate m) {
+    f.FindSunMoonValues(m, "N", 23, 11, "E", 75, 46, 5.5, "E", 0, "Lahiri", 0, 0);
+    return f.FnFindSunPosition() < 180;
+  };
+  OleDate t = OleDate::FromParts(year, 4, 9);
+  while (!passed(DateAdd(Interval::Hour, 1, t))) t = DateAdd(Interval::Hour, 1, t);
+  while (!passed(t)) t = DateAdd(Interval::Minute, 1, t);
+  return t;
+}
+
+TEST(SolarYear, SeedRowsLandOnTheDayOfTheSunsEntryIntoAries) {
+  const Table seed = SeedRows();
+  ASSERT_EQ(seed.rows.size(), 60u);
+  EXPECT_EQ(seed.rows.at(1).yearname, "Prabhava");
+  for (int year = 1987; year <= 2046; ++year) {
+    const OleDate entry = AriesEntry(year);
+    const SunTimes day = Ujjain(entry.DateOnly());
+    // The day of the entry, or the next when the entry falls after sunset.
+    const OleDate expected = entry >= day.sunset ? Ujjain(DateAdd(Interval::Day, 1, entry.DateOnly())).sunrise
+                                                 : day.sunrise;
+    const auto start = FindYearStart(year, seed, Ujjain);
+    ASSERT_TRUE(start.has_value()) << year;
+    EXPECT_EQ(FormatDate(*start, "DD/MM/YYYY HH:NN"), FormatDate(expected, "DD/MM/YYYY HH:NN"))
+        << year << ", entry " << FormatDate(entry, "DD/MM/YYYY HH:NN");
+  }
+}
+
+}  // namespace
+}  // namespace kelvaro
