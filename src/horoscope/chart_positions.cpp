@@ -70,16 +70,10 @@ void ComputeChartPositions(CalculationContext& ctx, double division) {
   s.Ayanamsa = f.FnFindAyanamsa();
 
   // 4. Rasi numbers under the division of this pass.
-  s.LagnaRasi = RasiOfLongitude(s.LagnaLon, division);
-  s.SunRasi = RasiOfLongitude(s.SunLon, division);
-  s.MoonRasi = RasiOfLongitude(s.MoonLon, division);
-  s.MarsRasi = RasiOfLongitude(s.MarsLon, division);
-  s.MercuryRasi = RasiOfLongitude(s.MercuryLon, division);
-  s.JupiterRasi = RasiOfLongitude(s.JupiterLon, division);
-  s.VenusRasi = RasiOfLongitude(s.VenusLon, division);
-  s.SaturnRasi = RasiOfLongitude(s.SaturnLon, division);
-  s.RahuRasi = RasiOfLongitude(s.RahuLon, division);
-  s.KetuRasi = RasiOfLongitude(s.KetuLon, division);
+  for (int b = static_cast<int>(Body::Lagna); b <= static_cast<int>(Body::Ketu); ++b) {
+    const Body body = static_cast<Body>(b);
+    s.SetRasi(body, RasiOfLongitude(s.LongitudeOf(body), division));
+  }
 
   // 5. The limits of the civil date.
   s.SunriseOfBirthDay = SunriseOn(ctx, s.BirthMomentDate);

@@ -6,41 +6,25 @@
 
 namespace kelvaro {
 
-double HoroscopeState::LongitudeOf(Body body) const {
-  switch (body) {
-    case Body::Lagna: return LagnaLon;
-    case Body::Sun: return SunLon;
-    case Body::Moon: return MoonLon;
-    case Body::Mars: return MarsLon;
-    case Body::Mercury: return MercuryLon;
-    case Body::Jupiter: return JupiterLon;
-    case Body::Venus: return VenusLon;
-    case Body::Saturn: return SaturnLon;
-    case Body::Rahu: return RahuLon;
-    case Body::Ketu: return KetuLon;
-    case Body::Gulika: return GulikaLon;
-    case Body::Maandi: return MaandiLon;
-  }
-  return 0;
-}
+namespace {
 
-std::int16_t HoroscopeState::RasiOf(Body body) const {
-  switch (body) {
-    case Body::Lagna: return LagnaRasi;
-    case Body::Sun: return SunRasi;
-    case Body::Moon: return MoonRasi;
-    case Body::Mars: return MarsRasi;
-    case Body::Mercury: return MercuryRasi;
-    case Body::Jupiter: return JupiterRasi;
-    case Body::Venus: return VenusRasi;
-    case Body::Saturn: return SaturnRasi;
-    case Body::Rahu: return RahuRasi;
-    case Body::Ketu: return KetuRasi;
-    case Body::Gulika: return GulikaRasi;
-    case Body::Maandi: return MaandiRasi;
-  }
-  return 0;
-}
+// The longitude and rasi fields of each body, in the canonical order.
+constexpr double HoroscopeState::*kLongitudeFields[kBodyCount] = {
+    &HoroscopeState::LagnaLon,  &HoroscopeState::SunLon,     &HoroscopeState::MoonLon,   &HoroscopeState::MarsLon,
+    &HoroscopeState::MercuryLon, &HoroscopeState::JupiterLon, &HoroscopeState::VenusLon, &HoroscopeState::SaturnLon,
+    &HoroscopeState::RahuLon,   &HoroscopeState::KetuLon,    &HoroscopeState::GulikaLon, &HoroscopeState::MaandiLon};
+constexpr std::int16_t HoroscopeState::*kRasiFields[kBodyCount] = {
+    &HoroscopeState::LagnaRasi,  &HoroscopeState::SunRasi,     &HoroscopeState::MoonRasi,   &HoroscopeState::MarsRasi,
+    &HoroscopeState::MercuryRasi, &HoroscopeState::JupiterRasi, &HoroscopeState::VenusRasi, &HoroscopeState::SaturnRasi,
+    &HoroscopeState::RahuRasi,   &HoroscopeState::KetuRasi,    &HoroscopeState::GulikaRasi, &HoroscopeState::MaandiRasi};
+
+}  // namespace
+
+double HoroscopeState::LongitudeOf(Body body) const { return this->*kLongitudeFields[static_cast<int>(body)]; }
+
+std::int16_t HoroscopeState::RasiOf(Body body) const { return this->*kRasiFields[static_cast<int>(body)]; }
+
+void HoroscopeState::SetRasi(Body body, std::int16_t rasi) { this->*kRasiFields[static_cast<int>(body)] = rasi; }
 
 const std::string& HoroscopeState::LongNameOf(Body body) const {
   switch (body) {

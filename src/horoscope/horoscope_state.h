@@ -72,6 +72,7 @@ struct HoroscopeState {
 
   double LongitudeOf(Body body) const;
   std::int16_t RasiOf(Body body) const;
+  void SetRasi(Body body, std::int16_t rasi);
   const std::string& ShortNameOf(Body body) const { return ShortNames[static_cast<size_t>(body)]; }
   const std::string& LongNameOf(Body body) const;
 };

@@ -22,6 +22,29 @@ void BindZone(SQLite::Statement& s, int index, std::int64_t zoneSno) {
   }
 }
 
+// Binds the seventeen stored fields of a chart, from `ChartName` to
+// `TimeDifference`, in the column order of both the insert and the update.
+void BindChartColumns(SQLite::Statement& st, const std::string& chartName, const ChartFields& f, OleDate date,
+                      int second) {
+  st.bind(1, chartName);
+  st.bind(2, f.gender == "Male" ? "Male" : "Female");
+  st.bind(3, f.countryId);
+  st.bind(4, f.city);
+  st.bind(5, date.Day());
+  st.bind(6, date.Month());
+  st.bind(7, date.Year());
+  st.bind(8, f.hour);
+  st.bind(9, f.minute);
+  st.bind(10, second);
+  st.bind(11, f.latDeg);
+  st.bind(12, f.latNS);
+  st.bind(13, f.latMin);
+  st.bind(14, f.lonDeg);
+  st.bind(15, f.lonEW);
+  st.bind(16, f.lonMin);
+  BindZone(st, 17, f.zoneSno);
+}
+
 }  // namespace
 
 std::string ChartNameOf(std::string_view name, std::string_view day, std::string_view month, std::string_view year) {
@@ -48,23 +71,8 @@ WriteResult SaveChart(Database& db, const ChartFields& f) {
                              "ChartHour, ChartMinute, ChartSecond, LatitudeDegree, Latitude_NS, LatitudeMinute, "
                              "LongitudeDegree, Longitude_EW, LongitudeMinute, TimeDifference) "
                              "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)");
-    insert.bind(1, ChartNameOf(name, FormatDate(*date, "dd"), FormatDate(*date, "mmm"), FormatDate(*date, "yyyy")));
-    insert.bind(2, f.gender == "Male" ? "Male" : "Female");
-    insert.bind(3, f.countryId);
-    insert.bind(4, f.city);
-    insert.bind(5, date->Day());
-    insert.bind(6, date->Month());
-    insert.bind(7, date->Year());
-    insert.bind(8, f.hour);
-    insert.bind(9, f.minute);
-    insert.bind(10, f.second);
-    insert.bind(11, f.latDeg);
-    insert.bind(12, f.latNS);
-    insert.bind(13, f.latMin);
-    insert.bind(14, f.lonDeg);
-    insert.bind(15, f.lonEW);
-    insert.bind(16, f.lonMin);
-    BindZone(insert, 17, f.zoneSno);
+    BindChartColumns(insert, ChartNameOf(name, FormatDate(*date, "dd"), FormatDate(*date, "mmm"), FormatDate(*date, "yyyy")),
+                     f, *date, f.second);
     insert.exec();
     result.id = c.getLastInsertRowid();
     result.message = "Chart Successfully Saved";
@@ -153,26 +161,12 @@ WriteResult UpdateChart(Database& db, std::int64_t sno, const ChartFields& f) {
   db.Write("update the chart", [&](SQLite::Database& c) {
     SQLite::Statement update(c,
                              "UPDATE ChartSave SET ChartName = ?, Gender = ?, Country = ?, City = ?, ChartDay = ?, "
-                             "ChartMonth = ?, ChartYear = ?, ChartHour = ?, ChartMinute = ?, ChartSecond = 0, "
+                             "ChartMonth = ?, ChartYear = ?, ChartHour = ?, ChartMinute = ?, ChartSecond = ?, "
                              "LatitudeDegree = ?, Latitude_NS = ?, LatitudeMinute = ?, LongitudeDegree = ?, "
                              "Longitude_EW = ?, LongitudeMinute = ?, TimeDifference = ? WHERE Sno = ?");
-    update.bind(1, ChartNameOf(Trim(f.name), Trim(f.day), Trim(f.month), Trim(f.year)));
-    update.bind(2, f.gender == "Male" ? "Male" : "Female");
-    update.bind(3, f.countryId);
-    update.bind(4, f.city);
-    update.bind(5, date->Day());
-    update.bind(6, date->Month());
-    update.bind(7, date->Year());
-    update.bind(8, f.hour);
-    update.bind(9, f.minute);
-    update.bind(10, f.latDeg);
-    update.bind(11, f.latNS);
-    update.bind(12, f.latMin);
-    update.bind(13, f.lonDeg);
-    update.bind(14, f.lonEW);
-    update.bind(15, f.lonMin);
-    BindZone(update, 16, f.zoneSno);
-    update.bind(17, sno);
+    // An update stores the seconds as "00".
+    BindChartColumns(update, ChartNameOf(Trim(f.name), Trim(f.day), Trim(f.month), Trim(f.year)), f, *date, 0);
+    update.bind(18, sno);
     if (update.exec() == 0) {
       throw StoreError("Cannot update chart " + std::to_string(sno) + " in \"" + db.Path().string() +
                        "\": it no longer exists");
