@@ -8,6 +8,7 @@ packages=(
   libsqlite3-dev libsqlitecpp-dev
   libcli11-dev nlohmann-json3-dev libfmt-dev
   libgtest-dev libgmock-dev libbenchmark-dev
+  cppcheck
   tzdata
 )
 
