@@ -11,6 +11,7 @@
 
 #include "cli/birth_input.h"
 #include "cli/cli.h"
+#include "common/angle_text.h"
 #include "common/calculation_error.h"
 #include "common/date_text.h"
 #include "common/number_rules.h"
@@ -27,23 +28,10 @@ constexpr const char* kBodyLabels[kBodyCount] = {"Lagna",  "Sun",    "Moon", "Ma
 
 std::string Clock24(OleDate moment) { return FormatDate(moment, "DD/MM/YYYY HH:NN"); }
 
-// 205.2472 -> 205°14'50": seconds rounded half away from zero, 60 carried.
+// 205.2472 -> 205°14'50", by the program's own angle rule.
 std::string DegreesMinutesSeconds(double angle) {
-  const bool negative = angle < 0;
-  const double longitude = negative ? -angle : angle;
-  int degrees = static_cast<int>(Int(longitude));
-  const double minutesExact = (longitude - degrees) * 60;
-  int minutes = static_cast<int>(Int(minutesExact));
-  int seconds = std::stoi(FormatPattern((minutesExact - minutes) * 60, "00"));
-  if (seconds >= 60) {
-    seconds -= 60;
-    ++minutes;
-  }
-  if (minutes >= 60) {
-    minutes -= 60;
-    ++degrees;
-  }
-  return fmt::format("{}{}°{:02d}'{:02d}\"", negative ? "-" : "", degrees, minutes, seconds);
+  const AngleParts p = SplitAngle(angle);
+  return fmt::format("{}{}°{:02d}'{:02d}\"", p.negative ? "-" : "", p.degrees, p.minutes, p.seconds);
 }
 
 nlohmann::ordered_json PositionsJson(const HoroscopeState& s) {
