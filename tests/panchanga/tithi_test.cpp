@@ -1,0 +1,195 @@
+#include "panchanga/tithi.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <string>
+
+namespace kelvaro {
+namespace {
+
+struct TithiExpect {
+  std::int16_t no;
+  const char* name;
+  const char* side;
+  const char* karana;
+};
+
+void ExpectTithi(const clsTithi& t, const TithiExpect& e) {
+  EXPECT_EQ(t.TithiNo, e.no);
+  EXPECT_EQ(t.Tithi, e.name);
+  EXPECT_EQ(t.TithiPosition, e.side);
+  EXPECT_EQ(t.Karnam, e.karana);
+}
+
+clsTithi TithiAt(double moon, double sun) {
+  clsTithi t;
+  t.moonA = moon;
+  t.sunC = sun;
+  t.FindTithi();
+  return t;
+}
+
+double Above(double x) { return std::nextafter(x, std::numeric_limits<double>::infinity()); }
+
+// The almanac's thirty rows as printed, with their two karanas each; the test
+// walks every 12-degree boundary and every mid-row karana boundary with them.
+struct Row {
+  std::int16_t no;
+  const char* name;
+  const char* side;
+  const char* first;
+  const char* second;
+};
+constexpr Row kRows[] = {
+    {1, "Pratipada", "Bright", "Kintughna", "Bava"},
+    {2, "Dwitiya", "Bright", "Balav", "Kaulav"},
+    {3, "Tritiya", "Bright", "Taitila", "Gar"},
+    {4, "Chaturthi", "Bright", "Vanija", "Vishti"},
+    {5, "Panchami", "Bright", "Bav", "Balav"},
+    {6, "Shasthi", "Bright", "Kaulava", "Taitila"},
+    {7, "Saptami", "Bright", "Gar", "Vanija"},
+    {8, "Ashtami", "Bright", "Vishti", "Bav"},
+    {9, "Navami", "Bright", "Balava", "Kaulava"},
+    {10, "Dashami", "Bright", "Taitila", "Gar"},
+    {11, "Ekadashi", "Bright", "Vanija", "Vishti"},
+    {12, "Dwadashi", "Bright", "Bav", "Balav"},
+    {13, "Triyodashi", "Bright", "Kaulava", "Taitila"},
+    {14, "Chaturdashi", "Bright", "Gar", "Vanija"},
+    {15, "Purnima", "Bright", "Vishti", "Bav"},
+    {16, "Pratipada", "Dark", "Balav", "Kaulava"},
+    {17, "Dwitiya", "Dark", "Taitila", "Gar"},
+    {18, "Tritiya", "Dark", "Vanija", "Vishti"},
+    {19, "Chaturthi", "Dark", "Bav", "Balav"},
+    {20, "Panchami", "Dark", "Kaulava", "Taitila"},
+    {21, "Shasthi", "Dark", "Gar", "Vanija"},
+    {22, "Saptami", "Dark", "Vishti", "Bav"},
+    {23, "Ashtami", "Dark", "Balava", "Kaulava"},
+    {24, "Navami", "Dark", "Taitila", "Gar"},
+    {25, "Dashami", "Dark", "Vanija", "Vishti"},
+    {26, "Ekadashi", "Dark", "Bav", "Balava"},
+    {27, "Dwadashi", "Dark", "Kaulava", "Taitila"},
+    {28, "Triyodashi", "Dark", "Gar", "Vanija"},
+    {29, "Chaturdashi", "Dark", "Vishti", "Shakuni"},
+    {30, "Amavashya", "Dark", "Chatushpada", "Naga"},
+};
+
+// With the Sun at 0 the elongation is the Moon's longitude exactly, so each
+// row's bounds can be hit to the last bit. Row k (1-based) runs from 12(k-1),
+// excluded (row 1: included), to 12k, included; its first karana to 12(k-1)+6
+// included.
+TEST(Tithi, EveryRowAtItsBoundsAndItsKaranaHalves) {
+  for (const Row& row : kRows) {
+    SCOPED_TRACE(row.no);
+    const double start = 12.0 * (row.no - 1);
+    const double middle = start + 6;
+    const double end = 12.0 * row.no;
+    if (row.no > 1) ExpectTithi(TithiAt(Above(start), 0), {row.no, row.name, row.side, row.first});
+    ExpectTithi(TithiAt(middle, 0), {row.no, row.name, row.side, row.first});
+    ExpectTithi(TithiAt(Above(middle), 0), {row.no, row.name, row.side, row.second});
+    ExpectTithi(TithiAt(end, 0), {row.no, row.name, row.side, row.second});
+  }
+}
+
+TEST(Tithi, WorkedElongations) {
+  struct Case {
+    const char* why;
+    double moon, sun;
+    TithiExpect expect;
+  } cases[] = {
+      // Equal longitudes: the Sun is not strictly above, elongation 0, row 1.
+      {"new moon exact", 100, 100, {1, "Pratipada", "Bright", "Kintughna"}},
+      // Sun above Moon: Moon 10 + 360 = 370, elongation 20, row 2 (12, 24],
+      // 8 degrees in, past 6: second karana.
+      {"wrap", 10, 350, {2, "Dwitiya", "Bright", "Kaulav"}},
+      // 112 - 100 = 12: upper bound of row 1, 12 in: second karana.
+      {"elongation 12", 112, 100, {1, "Pratipada", "Bright", "Bava"}},
+      // 106 - 100 = 6: still the first half.
+      {"elongation 6", 106, 100, {1, "Pratipada", "Bright", "Kintughna"}},
+      // 354.5: row 30 (348, 360], 6.5 in.
+      {"elongation 354.5", 354.5, 0, {30, "Amavashya", "Dark", "Naga"}},
+      // The sample chart: 275.4562 - 88.3176 = 187.1386, row 16 (180, 192],
+      // 187.1386 - 180 = 7.1386 in, past 6: second karana of row 16.
+      {"sample chart", 275.4562, 88.3176, {16, "Pratipada", "Dark", "Kaulava"}},
+      // Sun 359.5 above Moon 0: 360 - 359.5 = 0.5, row 1, first half.
+      {"wrap just past new moon", 0, 359.5, {1, "Pratipada", "Bright", "Kintughna"}},
+      // Sun 6 above Moon 5: 365 - 6 = 359, row 30, 11 in.
+      {"wrap just before new moon", 5, 6, {30, "Amavashya", "Dark", "Naga"}},
+      // Moon 360, Sun 0: 360 is row 30's upper bound, included.
+      {"elongation 360", 360, 0, {30, "Amavashya", "Dark", "Naga"}},
+      // Moon 0, Sun 360: Sun above, Moon becomes 360, elongation 0.
+      {"Sun at 360", 0, 360, {1, "Pratipada", "Bright", "Kintughna"}},
+      // Full moon: 270 - 90 = 180, row 15's upper bound, second half.
+      {"full moon exact", 270, 90, {15, "Purnima", "Bright", "Bav"}},
+      // 200.25 and 20.25 are exact in binary, so the difference is 180 exactly.
+      {"full moon from quarters", 200.25, 20.25, {15, "Purnima", "Bright", "Bav"}},
+      // Sun 300 above Moon 100: 460 - 300 = 160, row 14 (156, 168], 4 in.
+      {"wrap mid month", 100, 300, {14, "Chaturdashi", "Bright", "Gar"}},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.why);
+    ExpectTithi(TithiAt(c.moon, c.sun), c.expect);
+  }
+}
+
+// An elongation outside 0 to 360 matches no row: every result keeps the value
+// of the previous call on the same object.
+TEST(Tithi, OutOfRangeKeepsThePreviousResults) {
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  struct Case {
+    const char* why;
+    double moon, sun;
+  } cases[] = {
+      {"Moon 400: elongation 390", 400, 10},
+      {"Sun 400 above Moon 10: 370 - 400 = -30", 10, 400},
+      {"just above 360", Above(360), 0},
+      {"Sun below 0: 10 - (-355) = 365", 10, -355},
+      {"not a number", nan, 0},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.why);
+    clsTithi t;
+    // 275.4562 - 88.3176 = 187.1386: row 16, second half (worked above).
+    t.moonA = 275.4562;
+    t.sunC = 88.3176;
+    t.FindTithi();
+    t.moonA = c.moon;
+    t.sunC = c.sun;
+    t.FindTithi();
+    ExpectTithi(t, {16, "Pratipada", "Dark", "Kaulava"});
+  }
+  // A fresh object that never matched keeps its empty results.
+  clsTithi fresh = TithiAt(400, 10);
+  ExpectTithi(fresh, {0, "", "", ""});
+}
+
+// The wrappers set both inputs on the shared instance, run it and hand back
+// one result each; the instance keeps all four results of the last call.
+TEST(Tithi, WrappersRunTheSharedInstance) {
+  clsTithi shared;
+  EXPECT_EQ(TithiNameOf(shared, 10, 350), "Dwitiya");  // elongation 20, worked above
+  EXPECT_EQ(shared.moonA, 10);
+  EXPECT_EQ(shared.sunC, 350);
+  EXPECT_EQ(shared.Karnam, "Kaulav");
+
+  // 275.4562 - 88.3176 = 187.1386: row 16.
+  EXPECT_EQ(TithiNumberOf(shared, 275.4562, 88.3176), 16);
+  EXPECT_EQ(shared.Tithi, "Pratipada");
+  // 100 + 360 - 300 = 160: row 14, Bright. 310 - 100 = 210: row 18 (204, 216],
+  // Dark, 6 in: first half.
+  EXPECT_EQ(TithiSideOf(shared, 100, 300), "Bright");
+  EXPECT_EQ(shared.TithiNo, 14);
+  EXPECT_EQ(TithiSideOf(shared, 310, 100), "Dark");
+  EXPECT_EQ(shared.TithiNo, 18);
+  EXPECT_EQ(shared.Karnam, "Vanija");
+
+  // Out of range through a wrapper: the previous result comes back.
+  EXPECT_EQ(TithiNameOf(shared, 400, 10), "Tritiya");
+  EXPECT_EQ(TithiNumberOf(shared, 400, 10), 18);
+  EXPECT_EQ(TithiSideOf(shared, 10, 400), "Dark");
+}
+
+}  // namespace
+}  // namespace kelvaro
