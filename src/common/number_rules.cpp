@@ -103,6 +103,14 @@ std::string FormatDigits(double x, int integerDigits, int fractionDigits) {
   return out;
 }
 
+std::string NumberText(double value) {
+  char buf[40];
+  std::snprintf(buf, sizeof buf, "%.15G", value);
+  std::string out = buf;
+  if (out == "-0") out = "0";
+  return out;
+}
+
 std::string FormatPattern(double x, const std::string& pattern) {
   const auto dot = pattern.find('.');
   if (dot == std::string::npos) return FormatDigits(x, static_cast<int>(pattern.size()), 0);

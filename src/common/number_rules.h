@@ -24,6 +24,11 @@ double RoundHalfEven(double x, int digits = 0);
 // negative result that is not zero after rounding. FormatDigits(7.5, 2, 0) is "08".
 std::string FormatDigits(double x, int integerDigits, int fractionDigits);
 
+// The default text of a number, as a number joined into a text shows: up to
+// 15 significant digits, no trailing zeros, no point for a whole number,
+// "-0" written "0", very small or large values as "1E-05".
+std::string NumberText(double value);
+
 // The same, driven by a pattern made only of '0' and at most one '.'.
 std::string FormatPattern(double x, const std::string& pattern);
 

@@ -45,12 +45,4 @@ std::optional<double> NumericValue(std::string_view text) {
   return negative ? -value : value;
 }
 
-std::string NumberText(double value) {
-  char buf[40];
-  std::snprintf(buf, sizeof buf, "%.15g", value);
-  std::string out = buf;
-  if (out == "-0") out = "0";
-  return out;
-}
-
 }  // namespace kelvaro::store

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include "common/number_rules.h"
 
 namespace kelvaro::store {
 
@@ -17,8 +18,7 @@ std::string LowerAscii(std::string_view text);
 // text, including "", "inf", "0x10" and "1,000".
 std::optional<double> NumericValue(std::string_view text);
 
-// A number as text in its default form: up to 15 significant digits, no
-// trailing zeros, no exponent for ordinary values. 5.5 -> "5.5", 5 -> "5".
-std::string NumberText(double value);
+// A number as text in its default form (common/number_rules.h).
+using kelvaro::NumberText;
 
 }  // namespace kelvaro::store
