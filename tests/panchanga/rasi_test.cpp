@@ -1,0 +1,165 @@
+#include "panchanga/rasi.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <string>
+
+namespace kelvaro {
+namespace {
+
+double Above(double x) { return std::nextafter(x, std::numeric_limits<double>::infinity()); }
+double Below(double x) { return std::nextafter(x, -std::numeric_limits<double>::infinity()); }
+
+clsRasi RasiAt(double position, const char* language) {
+  clsRasi r;
+  r.nchkLanguage = language;
+  r.PlanetPosition = position;
+  r.findRasi();
+  return r;
+}
+
+// Each sign's upper bound, included, and the next double above it, in both
+// languages. The half, worked by hand: 30 comes off once, then again while the
+// rest is above 30; a rest of at most 15 is half 1. At 30k (k >= 2) the rest
+// stops at exactly 30: half 2. Just above 30k it is a hair above 0: half 1.
+// 30.01 - 30 = 0.01: half 1.
+TEST(Rasi, EverySignAtItsUpperBoundAndJustAbove) {
+  struct Case {
+    double position;
+    std::int16_t no;
+    const char* sanskrit;
+    const char* english;
+    std::int16_t half;
+  } cases[] = {
+      {0, 1, "Mesha", "Aries", 1},
+      {30.01, 1, "Mesha", "Aries", 1},
+      {Above(30.01), 2, "Vrishaba", "Taurus", 1},
+      {60, 2, "Vrishaba", "Taurus", 2},
+      {Above(60), 3, "Mithuna", "Gemini", 1},
+      {90, 3, "Mithuna", "Gemini", 2},
+      {Above(90), 4, "Kataka", "Cancer", 1},
+      {120, 4, "Kataka", "Cancer", 2},
+      {Above(120), 5, "Simha", "Leo", 1},
+      {150, 5, "Simha", "Leo", 2},
+      {Above(150), 6, "Kanya", "Virgo", 1},
+      {180, 6, "Kanya", "Virgo", 2},
+      {Above(180), 7, "Thula", "Libra", 1},
+      {210, 7, "Thula", "Libra", 2},
+      {Above(210), 8, "Vrishchika", "Scorpio", 1},
+      {240, 8, "Vrishchika", "Scorpio", 2},
+      {Above(240), 9, "Dhanus", "Sagitarius", 1},
+      {270, 9, "Dhanus", "Sagitarius", 2},
+      {Above(270), 10, "Makara", "Capricon", 1},
+      {300, 10, "Makara", "Capricon", 2},
+      {Above(300), 11, "Khumba", "Aquarius", 1},
+      {330, 11, "Khumba", "Aquarius", 2},
+      {Above(330), 12, "Meena", "Pisces", 1},
+      {360, 12, "Meena", "Pisces", 2},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.position);
+    const clsRasi sanskrit = RasiAt(c.position, "Sanskrit");
+    EXPECT_EQ(sanskrit.RasiNo, c.no);
+    EXPECT_EQ(sanskrit.RasiName, c.sanskrit);
+    EXPECT_EQ(sanskrit.RasiHalf, c.half);
+    const clsRasi english = RasiAt(c.position, "English");
+    EXPECT_EQ(english.RasiNo, c.no);
+    EXPECT_EQ(english.RasiName, c.english);
+    EXPECT_EQ(english.RasiHalf, c.half);
+  }
+}
+
+// The first sign reaches to 30.01; the halves worked by hand as above.
+TEST(Rasi, FirstSignEdgeAndHalves) {
+  struct Case {
+    double position;
+    std::int16_t no;
+    std::int16_t half;
+  } cases[] = {
+      {30.005, 1, 1},   // above 30, within 30.01
+      {30.02, 2, 1},    // rest 0.02
+      {30, 1, 1},       // rest 0
+      {15, 1, 1},       // rest -15: the first sign has no second half
+      {29.0, 1, 1},     // rest -1
+      {29.99, 1, 1},
+      {45.0, 2, 1},     // rest 15, included in half 1
+      {Above(45.0), 2, 2},
+      {45.5, 2, 2},     // rest 15.5
+      {60.0, 2, 2},     // rest 30, not above 30: stays 30
+      {75.0, 3, 1},     // 45 -> 15
+      {75.5, 3, 2},     // 45.5 -> 15.5
+      {100, 4, 1},      // 70 -> 40 -> 10
+      {345, 12, 1},     // 315 -> ... -> 15
+      {359.9, 12, 2},   // 329.9 -> ... -> 29.9 (inexact, but well clear of 15)
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.position);
+    const clsRasi r = RasiAt(c.position, "English");
+    EXPECT_EQ(r.RasiNo, c.no);
+    EXPECT_EQ(r.RasiHalf, c.half);
+  }
+}
+
+// With any language word but the two exact ones, nothing at all is assigned.
+TEST(Rasi, OtherLanguageWordsAssignNothing) {
+  const char* words[] = {"sanskrit", "ENGLISH", "", "Hindi", "English "};
+  for (const char* word : words) {
+    SCOPED_TRACE(word);
+    clsRasi r = RasiAt(100, "English");  // Cancer, 4; 70 -> 40 -> 10: half 1
+    r.nchkLanguage = word;
+    r.PlanetPosition = 45.5;  // would be Taurus, 2, half 2
+    r.findRasi();
+    EXPECT_EQ(r.RasiName, "Cancer");
+    EXPECT_EQ(r.RasiNo, 4);
+    EXPECT_EQ(r.RasiHalf, 1);
+  }
+  const clsRasi fresh = RasiAt(100, "Tamil");
+  EXPECT_EQ(fresh.RasiName, "");
+  EXPECT_EQ(fresh.RasiNo, 0);
+  EXPECT_EQ(fresh.RasiHalf, 0);
+}
+
+// Outside 0 to 360 no sign matches and name and number stay; the half is
+// still worked out from the position.
+TEST(Rasi, OutOfRangeKeepsTheSignButWorksTheHalf) {
+  struct Case {
+    double position;
+    std::int16_t half;
+  } cases[] = {
+      {360.5, 1},       // 330.5 -> ... -> 0.5
+      {375.5, 2},       // 345.5 -> ... -> 15.5
+      {Above(360), 1},  // a hair above 0 after the folds
+      {Below(0), 1},    // rest just below -30
+      {-10, 1},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.position);
+    clsRasi r = RasiAt(100, "Sanskrit");  // Kataka, 4, half 1
+    r.PlanetPosition = 45.5;              // Vrishaba, 2, half 2
+    r.findRasi();
+    r.PlanetPosition = c.position;
+    r.findRasi();
+    EXPECT_EQ(r.RasiName, "Vrishaba");
+    EXPECT_EQ(r.RasiNo, 2);
+    EXPECT_EQ(r.RasiHalf, c.half);
+  }
+}
+
+// A position that no almanac gives must still return: the folding of the half
+// is not a loop that could spin on it.
+TEST(Rasi, HugeOrInfinitePositionReturns) {
+  const double positions[] = {1e300, std::numeric_limits<double>::infinity()};
+  for (double position : positions) {
+    clsRasi r = RasiAt(100, "English");
+    r.PlanetPosition = position;
+    r.findRasi();
+    EXPECT_EQ(r.RasiName, "Cancer");
+    EXPECT_EQ(r.RasiNo, 4);
+  }
+}
+
+}  // namespace
+}  // namespace kelvaro

@@ -1,0 +1,130 @@
+#include "panchanga/yoga.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <string>
+
+namespace kelvaro {
+namespace {
+
+double Above(double x) { return std::nextafter(x, std::numeric_limits<double>::infinity()); }
+
+clsYoga YogaAt(double moon, double sun) {
+  clsYoga y;
+  y.moon_position = moon;
+  y.sun_position = sun;
+  y.findyoga();
+  return y;
+}
+
+// With the Sun at 0 the sum is the Moon's longitude exactly. Bounds are
+// k * 13.333 (worked in decimal: 13.333, 26.666, ..., 346.658) and 360; each
+// is included, and the next double above it is the next yoga.
+TEST(Yoga, EveryYogaAtItsUpperBoundAndJustAbove) {
+  struct Case {
+    double upTo;
+    std::int16_t no;
+    const char* name;
+    const char* next;
+  } cases[] = {
+      {13.333, 1, "Vishkumbha", "Preeti"},
+      {26.666, 2, "Preeti", "Ayushmaana"},
+      {39.999, 3, "Ayushmaana", "Saubhagya"},
+      {53.332, 4, "Saubhagya", "Shobhana"},
+      {66.665, 5, "Shobhana", "Atiganda"},
+      {79.998, 6, "Atiganda", "Sukarma"},
+      {93.331, 7, "Sukarma", "Dhriti"},
+      {106.664, 8, "Dhriti", "Shoola"},
+      {119.997, 9, "Shoola", "Ganda"},
+      {133.33, 10, "Ganda", "Vriddhi"},
+      {146.663, 11, "Vriddhi", "Dhruva"},
+      {159.996, 12, "Dhruva", "Vyaghata"},
+      {173.329, 13, "Vyaghata", "Harshana"},
+      {186.662, 14, "Harshana", "Vajra"},
+      {199.995, 15, "Vajra", "Siddhi"},
+      {213.328, 16, "Siddhi", "Vyatipaata"},
+      {226.661, 17, "Vyatipaata", "Variyana"},
+      {239.994, 18, "Variyana", "Parigha"},
+      {253.327, 19, "Parigha", "Shiva"},
+      {266.66, 20, "Shiva", "Siddha"},
+      {279.993, 21, "Siddha", "Sadhya"},
+      {293.326, 22, "Sadhya", "Shubha"},
+      {306.659, 23, "Shubha", "Shukla"},
+      {319.992, 24, "Shukla", "Brahma"},
+      {333.325, 25, "Brahma", "Indra"},
+      {346.658, 26, "Indra", "Vaidhriti"},
+      {360, 27, "Vaidhriti", nullptr},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.upTo);
+    const clsYoga at = YogaAt(c.upTo, 0);
+    EXPECT_EQ(at.YogaNo, c.no);
+    EXPECT_EQ(at.YogaName, c.name);
+    if (c.next != nullptr) {
+      const clsYoga above = YogaAt(Above(c.upTo), 0);
+      EXPECT_EQ(above.YogaNo, c.no + 1);
+      EXPECT_EQ(above.YogaName, c.next);
+    }
+  }
+}
+
+TEST(Yoga, WorkedSums) {
+  struct Case {
+    const char* why;
+    double moon, sun;
+    std::int16_t no;
+    const char* name;
+  } cases[] = {
+      {"0 is the first row's start, included", 0, 0, 1, "Vishkumbha"},
+      {"13.3335: past the cut bound, though below 13 deg 20 min", 13.3335, 0, 2, "Preeti"},
+      {"13.3333333: 13 deg 20 min is also past 13.333", 13.3333333, 0, 2, "Preeti"},
+      {"359.99", 359.99, 0, 27, "Vaidhriti"},
+      {"200 + 160 = 360 exactly stays 360", 200, 160, 27, "Vaidhriti"},
+      {"360 + 360 = 720, one fold to 360", 360, 360, 27, "Vaidhriti"},
+      {"200 + 170 = 370, folds to 10", 200, 170, 1, "Vishkumbha"},
+      {"300 + 60.5 = 360.5, folds to 0.5", 300, 60.5, 1, "Vishkumbha"},
+      {"359 + 359 = 718, folds to 358", 359, 359, 27, "Vaidhriti"},
+      {"sample chart: 275.4562 + 88.3176 = 363.7738 -> 3.7738", 275.4562, 88.3176, 1, "Vishkumbha"},
+      {"100 + 50 = 150: (146.663, 159.996]", 100, 50, 12, "Dhruva"},
+      {"250 + 150 = 400 -> 40: just past 39.999", 250, 150, 4, "Saubhagya"},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.why);
+    const clsYoga y = YogaAt(c.moon, c.sun);
+    EXPECT_EQ(y.YogaNo, c.no);
+    EXPECT_EQ(y.YogaName, c.name);
+  }
+}
+
+// A sum below 0, or still above 360 after the one fold, matches nothing and
+// the previous results stay.
+TEST(Yoga, OutOfRangeKeepsThePreviousResult) {
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  struct Case {
+    const char* why;
+    double moon, sun;
+  } cases[] = {
+      {"400 + 400 = 800 -> 440", 400, 400},
+      {"just above 720 -> just above 360", Above(720), 0},
+      {"-10 + 5 = -5", -10, 5},
+      {"not a number", nan, 0},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.why);
+    clsYoga y = YogaAt(100, 50);  // 150: Dhruva, 12
+    y.moon_position = c.moon;
+    y.sun_position = c.sun;
+    y.findyoga();
+    EXPECT_EQ(y.YogaNo, 12);
+    EXPECT_EQ(y.YogaName, "Dhruva");
+  }
+  const clsYoga fresh = YogaAt(400, 400);
+  EXPECT_EQ(fresh.YogaNo, 0);
+  EXPECT_EQ(fresh.YogaName, "");
+}
+
+}  // namespace
+}  // namespace kelvaro
