@@ -47,7 +47,19 @@ int KaliyugaYearNumber(int year) {
   return n;
 }
 
+std::string KaliyugaYearName(int year, const KaliyugaYearTable& table) {
+  const auto row = table.Row(KaliyugaYearNumber(year));
+  return row ? row->yearname : std::string();
+}
+
 std::optional<OleDate> FindYearStart(int year, const KaliyugaYearTable& table, const SunTimesOfDate& sunTimes) {
+  const auto start = FindYearStartAndFraction(year, table, sunTimes);
+  if (!start) return std::nullopt;
+  return start->moment;
+}
+
+std::optional<YearStart> FindYearStartAndFraction(int year, const KaliyugaYearTable& table,
+                                                  const SunTimesOfDate& sunTimes) {
   const auto row = table.Row(KaliyugaYearNumber(year));
   const PeriodCorrection* correction = CorrectionOf(year);
   if (!row || !correction) return std::nullopt;
@@ -68,8 +80,8 @@ std::optional<OleDate> FindYearStart(int year, const KaliyugaYearTable& table, c
   const SunTimes day = sunTimes(*start);
   OleDate t = DateAdd(Interval::Minute, Int(minutes), day.sunrise);
   t = DateAdd(Interval::Hour, Int(hours), t);
-  if (t >= day.sunrise && t < day.sunset) return day.sunrise;
-  if (t >= day.sunset) return sunTimes(DateAdd(Interval::Day, 1, *start)).sunrise;
+  if (t >= day.sunrise && t < day.sunset) return YearStart{day.sunrise, f};
+  if (t >= day.sunset) return YearStart{sunTimes(DateAdd(Interval::Day, 1, *start)).sunrise, f};
   return std::nullopt;  // not reached: t is never before the sunrise it counts from
 }
 

@@ -1,0 +1,69 @@
+// The sixty Kaliyuga years as the calendars read them from a new database:
+// every row as the seed file holds it, the numbers without a row, and a
+// DayVal that does not fit the 16 bits the calendars hold it in.
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+#include <string>
+
+#include "common/calculation_error.h"
+#include "store/database.h"
+#include "store/kaliyuga_year_table.h"
+#include "store_test_support.h"
+
+namespace kelvaro::store {
+namespace {
+
+using testing::TempFolder;
+
+class KaliyugaYearTableTest : public ::testing::Test {
+ protected:
+  TempFolder folder_;
+  Database db_{folder_ / "DBMirvaneBasic.db"};
+  DatabaseKaliyugaYearTable table_{db_};
+};
+
+// Through the interface the calendars see, compared with the file in data/
+// read here field by field.
+TEST_F(KaliyugaYearTableTest, EveryRowAsTheSeedFileHoldsIt) {
+  const kelvaro::KaliyugaYearTable& table = table_;
+  std::ifstream in(std::string(KELVARO_DATA_DIR) + "/kaliyuga_years.csv");
+  ASSERT_TRUE(in.good());
+  std::string line;
+  std::getline(in, line);
+  int rows = 0;
+  while (std::getline(in, line)) {
+    std::istringstream f(line);
+    std::string yearno, name, yearVal, dayVal, remain;
+    std::getline(f, yearno, ',');
+    std::getline(f, name, ',');
+    std::getline(f, yearVal, ',');
+    std::getline(f, dayVal, ',');
+    std::getline(f, remain, ',');
+    const auto row = table.Row(std::stoi(yearno));
+    ASSERT_TRUE(row.has_value()) << yearno;
+    EXPECT_EQ(row->yearname, name) << yearno;
+    EXPECT_EQ(row->YearVal, std::stod(yearVal)) << yearno;
+    EXPECT_EQ(row->DayVal, std::stoi(dayVal)) << yearno;
+    EXPECT_EQ(row->YearRemain, std::stod(remain)) << yearno;
+    ++rows;
+  }
+  EXPECT_EQ(rows, 60);
+  EXPECT_EQ(table.Row(1)->yearname, "Prabhava");
+  EXPECT_EQ(table.Row(60)->yearname, "Akshaya");
+}
+
+TEST_F(KaliyugaYearTableTest, NumbersWithoutARowGiveNothing) {
+  for (int yearno : {0, -1, 61, 120}) EXPECT_FALSE(table_.Row(yearno).has_value()) << yearno;
+}
+
+TEST_F(KaliyugaYearTableTest, DayValOutsideSixteenBitsRaises) {
+  db_.Connection().exec("UPDATE KaliyugaYearDetails SET DayVal = 32768 WHERE Yearno = 5");
+  EXPECT_THROW(table_.Row(5), kelvaro::CalculationError);
+  db_.Connection().exec("UPDATE KaliyugaYearDetails SET DayVal = -32768 WHERE Yearno = 5");
+  EXPECT_EQ(table_.Row(5)->DayVal, -32768);
+}
+
+}  // namespace
+}  // namespace kelvaro::store
