@@ -1,0 +1,409 @@
+#include "panchanga/lunar_calendar.h"
+
+#include <array>
+#include <cctype>
+#include <utility>
+
+#include "common/calculation_error.h"
+#include "common/date_text.h"
+#include "common/number_rules.h"
+#include "panchanga/solar_year.h"
+
+namespace kelvaro {
+
+namespace {
+
+std::string Lower(std::string text) {
+  for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  return text;
+}
+
+// Signs by thirty-degree rows, Aries first.
+constexpr std::array<const char*, 12> kSigns = {"ARIES",  "TAURUS",     "GEMINI",   "CANCER",
+                                                "LEO",    "VIRGO",      "LIBRA",    "SCORPIO",
+                                                "SAGITARIUS", "CAPRICON", "AQUARIUS", "PISCES"};
+
+// The row of a longitude, 0 to 11, each upper bound included (0 itself is in
+// the first row); -1 outside 0 to 360.
+int SignRow(double longitude) {
+  if (!(longitude >= 0 && longitude <= 360)) return -1;
+  for (int row = 0; row < 12; ++row) {
+    if (longitude <= 30.0 * (row + 1)) return row;
+  }
+  return -1;
+}
+
+struct MonthRow {
+  const char* sign;
+  const char* purnima;
+  const char* amavasya;
+};
+// The eighth month is spelt differently in the two columns on purpose.
+constexpr std::array<MonthRow, 12> kMonthNames = {{
+    {"pisces", "Chaitra", "Chaitra"},
+    {"aries", "Vaisakha", "Vaisakha"},
+    {"taurus", "Jyeshtha", "Jyeshtha"},
+    {"gemini", "Ashadha", "Ashadha"},
+    {"cancer", "Sravana", "Sravana"},
+    {"leo", "Bhadrapada", "Bhadrapada"},
+    {"virgo", "Asvina", "Asvina"},
+    {"libra", "Karttika", "Kartikka"},
+    {"scorpio", "Margasira", "Margasira"},
+    {"sagitarius", "Pausha", "Pausha"},
+    {"capricon", "Magha", "Magha"},
+    {"aquarius", "Phalguna", "Phalguna"},
+}};
+
+// Months whose year is the moment's own year, and the others, whose year is
+// the one before for a moment in January to April. Four spellings of the
+// eighth month are accepted.
+constexpr std::array<const char*, 5> kYearOfMoment = {"chaitra", "vaisakha", "jyeshtha", "ashadha", "sravana"};
+constexpr std::array<const char*, 10> kYearBeforeInSpring = {"bhadrapada", "asvina",    "karttika", "kartikka",
+                                                             "karttikka",  "kartika",   "margasira", "pausha",
+                                                             "magha",      "phalguna"};
+
+template <size_t N>
+bool OneOf(const std::string& word, const std::array<const char*, N>& words) {
+  for (const char* w : words) {
+    if (word == w) return true;
+  }
+  return false;
+}
+
+constexpr int kBoundSteps = kLunarSearchBoundDays * 24;
+
+// A cursor stepped an hour at a time that gives up with CalculationError
+// after kLunarSearchBoundDays days of steps. `sought` says what the walk is
+// waiting for at the moment, for the message.
+class HourlyWalk {
+ public:
+  HourlyWalk(OleDate start, int hours, std::string search, std::string sought)
+      : start_(start), cursor_(start), hours_(hours), search_(std::move(search)), sought_(std::move(sought)) {}
+
+  OleDate Cursor() const { return cursor_; }
+  void Seek(std::string sought) { sought_ = std::move(sought); }
+
+  OleDate Step() {
+    if (++steps_ > kBoundSteps) {
+      throw CalculationError(sought_ + " within " + std::to_string(kLunarSearchBoundDays) + " days " +
+                             (hours_ < 0 ? "before " : "after ") + FormatDate(start_, "DD/MM/YYYY") + " (" +
+                             search_ + ")");
+    }
+    cursor_ = DateAdd(Interval::Hour, hours_, cursor_);
+    return cursor_;
+  }
+
+ private:
+  OleDate start_;
+  OleDate cursor_;
+  int hours_;
+  int steps_ = 0;
+  std::string search_;
+  std::string sought_;
+};
+
+// A 16-bit counter one up; CalculationError if it would not fit.
+std::int16_t OneMore(std::int16_t count) { return CInt(static_cast<double>(count) + 1); }
+
+bool IsBrightPratipada(const std::string& name, const std::string& side) {
+  return name == "Pratipada" && side == "Bright";
+}
+
+}  // namespace
+
+std::string SignOfSun(double longitude) {
+  const int row = SignRow(longitude);
+  return row < 0 ? std::string() : kSigns[static_cast<size_t>(row)];
+}
+
+std::string SignBeforeSun(double longitude) {
+  const int row = SignRow(longitude);
+  return row < 0 ? std::string() : kSigns[static_cast<size_t>((row + 11) % 12)];
+}
+
+std::string LunarMonthName(const std::string& kind, const std::string& sign) {
+  const std::string k = Lower(kind);
+  const std::string s = Lower(sign);
+  if (k != "purnima" && k != "amavasya") return {};
+  for (const auto& row : kMonthNames) {
+    if (s == row.sign) return k == "purnima" ? row.purnima : row.amavasya;
+  }
+  return {};
+}
+
+std::string LunarYearName(OleDate moment, const std::string& month, const KaliyugaYearTable& table) {
+  const std::string m = Lower(month);
+  const DateParts parts = moment.Parts();
+  if (OneOf(m, kYearOfMoment)) return KaliyugaYearName(parts.year, table);
+  if (OneOf(m, kYearBeforeInSpring)) {
+    return KaliyugaYearName(parts.month >= 1 && parts.month <= 4 ? parts.year - 1 : parts.year, table);
+  }
+  return {};
+}
+
+std::string LunarDateText(const LunarDate& date) { return date.flag + "  /  " + date.month + "  /  " + date.year; }
+
+const LunarReckoning& KrishnadiReckoning() {
+  static const LunarReckoning kKrishnadi{LunarReckoning::Which::Krishnadi, "Purnima", "Purnima", "purnima",
+                                         "Krishnadi lunar date"};
+  return kKrishnadi;
+}
+
+const LunarReckoning& SukladiReckoning() {
+  // Searches "Amavashya", the tithi's name, but names months with "Amavasya".
+  static const LunarReckoning kSukladi{LunarReckoning::Which::Sukladi, "Amavashya", "Amavasya", "amavasya",
+                                       "Sukladi lunar date"};
+  return kSukladi;
+}
+
+LunarCalendar::LunarCalendar(ClsFindPlanetPosition& positions, clsTithi& tithi, clsFindSunrise& sunrise,
+                             clsFindSunSet& sunset, const KaliyugaYearTable& table)
+    : positions_(positions), tithi_(tithi), sunrise_(sunrise), sunset_(sunset), table_(table) {}
+
+LunarCalendar::SunMoon LunarCalendar::PositionsAt(OleDate moment, const LunarCalendarInputs& in) {
+  const CalendarPlace& p = in.place;
+  positions_.FindSunMoonValues(moment, p.latNS, p.latDeg, p.latMin, p.lonEW, p.lonDeg, p.lonMin, p.zoneHours,
+                               p.zoneSide, 0, in.ayanamsa, in.customYear, in.customProgress);
+  return {positions_.FnFindSunPosition(), positions_.FnFindMoonPosition()};
+}
+
+LunarCalendar::TithiAt LunarCalendar::TithiOf(OleDate moment, const LunarCalendarInputs& in) {
+  const SunMoon at = PositionsAt(moment, in);
+  TithiAt t;
+  t.name = TithiNameOf(tithi_, at.moon, at.sun);
+  t.number = TithiNumberOf(tithi_, at.moon, at.sun);
+  t.side = TithiSideOf(tithi_, at.moon, at.sun);
+  return t;
+}
+
+double& LunarCalendar::KeptSun(const LunarReckoning& r) {
+  return r.which == LunarReckoning::Which::Krishnadi ? purnimaSun_ : amavasyaSun_;
+}
+
+LunarDate& LunarCalendar::Result(LunarReckoning::Which which) {
+  return which == LunarReckoning::Which::Krishnadi ? krishnadi_ : sukladi_;
+}
+
+std::int16_t LunarCalendar::PurnimaCount(OleDate birth, const LunarCalendarInputs& in) {
+  return MonthEndCount(KrishnadiReckoning(), birth, in);
+}
+
+std::int16_t LunarCalendar::AmavasyaCount(OleDate birth, const LunarCalendarInputs& in) {
+  return MonthEndCount(SukladiReckoning(), birth, in);
+}
+
+std::int16_t LunarCalendar::MonthEndCount(const LunarReckoning& r, OleDate birth, const LunarCalendarInputs& in) {
+  forwardCount_ = 0;
+  std::string referenceSign, foundSign, currentSign, forwardSign;
+
+  // The clock of the search is 23:55:55 written as "hh:mm AM/PM", so the
+  // seconds fall away: every search starts at 11:55 PM of the birth date,
+  // whatever the time of birth.
+  const std::string clock = FormatDate(OleDate::FromParts(1899, 12, 30, 23, 55, 55), "hh:mm AM/PM");
+  const auto first = ParseDateTime(FormatDate(birth, "DD/MM/YYYY") + " " + clock);
+  if (!first) throw CalculationError("The birth date " + FormatDate(birth, "DD/MM/YYYY") + " is not a date");
+
+  // Backward: from the first month end found, on to where the Sun leaves
+  // the sign it held there.
+  std::int16_t backward = 0;
+  std::string lastDate;
+  HourlyWalk back(*first, -1, r.name + ", backward search", "No " + r.monthEnd + " found");
+  OleDate cursor = *first;
+  for (;;) {
+    SunMoon at = PositionsAt(cursor, in);
+    std::string name = TithiNameOf(tithi_, at.moon, at.sun);
+    currentSign = SignOfSun(at.sun);
+    if (name == r.monthEnd) {
+      back.Seek("No beginning of " + r.monthEnd + " found");
+      do {
+        cursor = back.Step();
+        at = PositionsAt(cursor, in);
+        name = TithiNameOf(tithi_, at.moon, at.sun);
+        currentSign = SignOfSun(at.sun);
+      } while (name == r.monthEnd);
+      foundSign = currentSign;
+      if (referenceSign.empty() || foundSign == referenceSign) {
+        referenceSign = foundSign;
+        // Dates are told apart by their "DD/MM/YYYY" text.
+        const std::string date = FormatDate(cursor, "DD/MM/YYYY");
+        if (backward == 0) {
+          backward = 1;
+          monthEndDates_.assign(1, cursor.DateOnly());
+          KeptSun(r) = at.sun;
+          lastDate = date;
+        } else if (date != lastDate) {
+          backward = OneMore(backward);
+          monthEndDates_.push_back(cursor.DateOnly());
+          KeptSun(r) = at.sun;
+          lastDate = date;
+        }
+      }
+      back.Seek("The Sun did not leave " + foundSign);
+    }
+    if (backward != 0 && foundSign != currentSign) break;
+    cursor = back.Step();
+  }
+  if (backward == 2) return backward;
+
+  // Forward: from the first month end after the start, on to where the Sun
+  // leaves the sign it held there.
+  std::int16_t forward = 0;
+  lastDate.clear();
+  HourlyWalk ahead(*first, 1, r.name + ", forward search", "No " + r.monthEnd + " found");
+  for (;;) {
+    cursor = ahead.Step();
+    SunMoon at = PositionsAt(cursor, in);
+    std::string name = TithiNameOf(tithi_, at.moon, at.sun);
+    currentSign = SignOfSun(at.sun);
+    if (name == r.monthEnd) {
+      forwardSign = currentSign;
+      ahead.Seek("No end of " + r.monthEnd + " found");
+      do {
+        cursor = ahead.Step();
+        at = PositionsAt(cursor, in);
+        name = TithiNameOf(tithi_, at.moon, at.sun);
+        currentSign = SignOfSun(at.sun);
+      } while (name == r.monthEnd);
+      const std::string date = FormatDate(cursor, "DD/MM/YYYY");
+      if (forward == 0) {
+        forward = 1;
+        lastDate = date;
+      } else if (date != lastDate) {
+        forward = OneMore(forward);
+        lastDate = date;
+      }
+      ahead.Seek("The Sun did not leave " + forwardSign);
+    }
+    if (forward != 0 && forwardSign != currentSign) break;
+  }
+  forwardCount_ = forwardSign == foundSign ? forward : 0;
+  return backward;
+}
+
+OleDate LunarCalendar::NextBrightPratipada(OleDate from, const LunarReckoning& r, const LunarCalendarInputs& in) {
+  HourlyWalk walk(from, 1, r.name + ", search for the month's start", "No Bright Pratipada found");
+  for (;;) {
+    const OleDate cursor = walk.Step();
+    const SunMoon at = PositionsAt(cursor, in);
+    if (IsBrightPratipada(TithiNameOf(tithi_, at.moon, at.sun), TithiSideOf(tithi_, at.moon, at.sun))) {
+      return cursor;
+    }
+  }
+}
+
+// The month by the Sun that the Sukladi count keeps (for the Krishnadi date,
+// the one the previous birth's count left): its own sign from sunrise on,
+// the sign before it for a birth before sunrise, unless the status is "DP".
+void LunarCalendar::FromAmavasyaSun(LunarDate& date, const LunarReckoning& r, OleDate birth, OleDate sunrise,
+                                    const std::string& status) {
+  const std::string sign = (status == "DP" || birth >= sunrise) ? SignOfSun(amavasyaSun_) : SignBeforeSun(amavasyaSun_);
+  date.month = LunarMonthName(r.kindLower, sign);
+  date.flag = forwardCount_ == 2 ? "Adhika" : "Shudha";
+  date.year = LunarYearName(birth, date.month, table_);
+}
+
+LunarDate LunarCalendar::LunarDateKrishnadi(OleDate birth, const std::string& status, const LunarCalendarInputs& in) {
+  return LunarDateOf(KrishnadiReckoning(), birth, status, in);
+}
+
+LunarDate LunarCalendar::LunarDateSukladi(OleDate birth, const std::string& status, const LunarCalendarInputs& in) {
+  return LunarDateOf(SukladiReckoning(), birth, status, in);
+}
+
+LunarDate LunarCalendar::LunarDateOf(const LunarReckoning& r, OleDate birth, const std::string& status,
+                                     const LunarCalendarInputs& in) {
+  const bool sukladi = r.which == LunarReckoning::Which::Sukladi;
+  LunarDate& own = Result(r.which);
+  own.flag.clear();
+
+  // 1. The day's limits and the positions at birth. The Sukladi date reads
+  // the Lagna where the Krishnadi date reads the Moon, into the same field.
+  const CalendarPlace& p = in.place;
+  const OleDate birthDate = birth.DateOnly();
+  const OleDate sunrise = sunrise_.FnFindSunrise(birthDate, p.latNS, p.latDeg, p.latMin, p.lonEW, p.lonDeg,
+                                                 p.lonMin, 0, p.zoneHours, p.zoneSide);
+  sunset_.FnFindSunset(birthDate, p.latNS, p.latDeg, p.latMin, p.lonEW, p.lonDeg, p.lonMin, 0, p.zoneHours,
+                       p.zoneSide);
+  if (sukladi) {
+    positions_.FindFixValues(birth, p.latNS, p.latDeg, p.latMin, p.lonEW, p.lonDeg, p.lonMin, p.zoneHours,
+                             p.zoneSide, 0, in.ayanamsa, in.customYear, in.customProgress);
+    sunAtBirth_ = positions_.FnFindSunPosition();
+    moonAtBirth_ = positions_.FnFindLagnaPosition();
+  } else {
+    const SunMoon at = PositionsAt(birth, in);
+    sunAtBirth_ = at.sun;
+    moonAtBirth_ = at.moon;
+  }
+
+  // 2. The count.
+  const std::int16_t count = MonthEndCount(r, birth, in);
+
+  // 3. One month end in the sign: the tithi at sunrise decides.
+  if (count == 1) {
+    const TithiAt atSunrise = TithiOf(sunrise, in);
+    if (IsBrightPratipada(atSunrise.name, atSunrise.side)) {
+      FromAmavasyaSun(own, r, birth, sunrise, status);
+    } else if (atSunrise.name == r.monthEnd && atSunrise.side == "Dark") {
+      if (sukladi) {
+        // New moon at sunrise: the month by the Sun at birth, unless a
+        // second new moon follows in the sign, or the next sunrise is not
+        // yet the first of the bright half.
+        own.month = LunarMonthName(r.kind, SignOfSun(sunAtBirth_));
+        if (forwardCount_ == 2) {
+          own.flag = "Adhika";
+        } else {
+          const TithiAt next = TithiOf(DateAdd(Interval::Day, 1, sunrise), in);
+          if (next.name != "Pratipada") {
+            const std::string sign =
+                (status == "DP" || birth >= sunrise) ? SignOfSun(amavasyaSun_) : SignBeforeSun(amavasyaSun_);
+            own.month = LunarMonthName(r.kind, sign);
+          }
+          own.flag = "Shudha";
+        }
+        own.year = LunarYearName(birth, own.month, table_);
+      } else {
+        // A Dark "Purnima" never occurs (the full moon is bright), so this
+        // branch is never taken; it writes the other reckoning's date.
+        LunarDate& other = Result(LunarReckoning::Which::Sukladi);
+        other.month = LunarMonthName(r.kindLower, SignBeforeSun(sunAtBirth_));
+        other.flag = forwardCount_ == 2 ? "Adhika" : "Shudha";
+        other.year = LunarYearName(birth, other.month, table_);
+      }
+    } else {
+      NextBrightPratipada(monthEndDates_.front(), r, in);
+      own.month = LunarMonthName(r.kind, SignOfSun(KeptSun(r)));
+      own.flag = count + forwardCount_ == 2 ? "Adhika" : "Shudha";
+      own.year = LunarYearName(birth, own.month, table_);
+    }
+  }
+
+  // 5. Two month ends in one sign: one of the two months is the extra one.
+  if (count == 2) {
+    const TithiAt atSunrise = TithiOf(sunrise, in);
+    if (IsBrightPratipada(atSunrise.name, atSunrise.side) ||
+        (atSunrise.name == r.monthEnd && atSunrise.side == "Dark")) {
+      FromAmavasyaSun(own, r, birth, sunrise, status);
+    } else {
+      // The dates are compared as "DD/MMM/YYYY" TEXTS, day first, not as
+      // dates: that is the rule, odd as its order is.
+      const std::string birthText = FormatDate(birth, "DD/MMM/YYYY");
+      const std::string firstText = FormatDate(monthEndDates_[0], "DD/MMM/YYYY");
+      const std::string secondText = FormatDate(monthEndDates_[1], "DD/MMM/YYYY");
+      const bool between = (firstText <= birthText && birthText <= secondText) ||
+                           (secondText <= birthText && birthText <= firstText);
+      const OleDate from = between ? monthEndDates_[0] : monthEndDates_[1];
+      const std::string& otherText = between ? secondText : firstText;
+      const OleDate hit = NextBrightPratipada(from, r, in);
+      own.month = LunarMonthName(r.kind, SignOfSun(amavasyaSun_));
+      if (birthText >= FormatDate(hit, "DD/MMM/YYYY")) {
+        own.flag = "Shudha";
+      } else if (birthText >= otherText) {
+        own.flag = "Adhika";
+      }
+      own.year = LunarYearName(birth, own.month, table_);
+    }
+  }
+  return own;
+}
+
+}  // namespace kelvaro
