@@ -322,6 +322,9 @@ LunarDate LunarCalendar::LunarDateOf(const LunarReckoning& r, OleDate birth, con
   const OleDate birthDate = birth.DateOnly();
   const OleDate sunrise = sunrise_.FnFindSunrise(birthDate, p.latNS, p.latDeg, p.latMin, p.lonEW, p.lonDeg,
                                                  p.lonMin, 0, p.zoneHours, p.zoneSide);
+  // The sunset is not read, but asking for it leaves the shared facade as
+  // the rest of the run expects (it hands back its last value where the Sun
+  // does not set).
   sunset_.FnFindSunset(birthDate, p.latNS, p.latDeg, p.latMin, p.lonEW, p.lonDeg, p.lonMin, 0, p.zoneHours,
                        p.zoneSide);
   if (sukladi) {
@@ -370,6 +373,8 @@ LunarDate LunarCalendar::LunarDateOf(const LunarReckoning& r, OleDate birth, con
         other.year = LunarYearName(birth, other.month, table_);
       }
     } else {
+      // The walk to the month's start decides nothing here (the month comes
+      // from the kept Sun), but it is part of the date and can give up.
       NextBrightPratipada(monthEndDates_.front(), r, in);
       own.month = LunarMonthName(r.kind, SignOfSun(KeptSun(r)));
       own.flag = count + forwardCount_ == 2 ? "Adhika" : "Shudha";
