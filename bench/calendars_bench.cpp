@@ -11,29 +11,14 @@
 #include "panchanga/solar_calendar.h"
 #include "panchanga/tithi.h"
 #include "store/database.h"
+#include "temporary_database.h"
 #include "store/kaliyuga_year_table.h"
 
 namespace {
 
 using namespace kelvaro;
 
-// A new database in the temporary folder, removed at the end, so that the
-// year rows are read the way the program reads them.
-class TemporaryDatabase {
- public:
-  TemporaryDatabase()
-      : folder_(std::filesystem::temp_directory_path() / ("kelvaro-bench-" + std::to_string(std::random_device()()))),
-        db_((std::filesystem::create_directories(folder_), folder_ / "DBMirvaneBasic.db")) {}
-  ~TemporaryDatabase() {
-    std::error_code ignored;
-    std::filesystem::remove_all(folder_, ignored);
-  }
-  store::Database& Db() { return db_; }
-
- private:
-  std::filesystem::path folder_;
-  store::Database db_;
-};
+using bench::TemporaryDatabase;
 
 // The sample chart: 14/07/1965 14:15 at Hyderabad, 17N20 78E30, zone 5.5 E.
 const OleDate kSampleBirth = OleDate::FromParts(1965, 7, 14, 14, 15);

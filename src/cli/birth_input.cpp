@@ -5,6 +5,7 @@
 #include <cmath>
 #include <string_view>
 
+#include "common/date_text.h"
 #include "common/ole_date.h"
 
 namespace kelvaro::cli {
@@ -74,6 +75,11 @@ std::optional<InputError> ReadAngle(const std::string& field, const std::string&
 }  // namespace
 
 std::optional<InputError> ApplyBirthText(const BirthText& text, const std::string& prefix, HoroscopeState& s) {
+  if (auto e = ApplyBirthDetails(text, prefix, s)) return e;
+  return ApplyAyanamsa(text.ayanamsa, text.zeroYear, text.progress, prefix, s);
+}
+
+std::optional<InputError> ApplyBirthDetails(const BirthText& text, const std::string& prefix, HoroscopeState& s) {
   // Date: DD/MM/YYYY.
   {
     const std::string& v = text.date;
@@ -91,8 +97,9 @@ std::optional<InputError> ApplyBirthText(const BirthText& text, const std::strin
     if (!OleDate::IsValidDate(year, month, day)) {
       return InputError{prefix + "date", v, "there is no such day"};
     }
-    s.BirthDay = std::to_string(day);
-    s.BirthMonth = std::to_string(month);
+    // As the birth form holds them: "05", "Jul", "1965".
+    s.BirthDay = (day < 10 ? "0" : "") + std::to_string(day);
+    s.BirthMonth = MonthName(month, true);
     s.BirthYear = std::to_string(year);
   }
   // Time: HH:MM on a 24-hour clock.
@@ -107,8 +114,10 @@ std::optional<InputError> ApplyBirthText(const BirthText& text, const std::strin
     const int minute = ToInt(v.substr(colon + 1));
     if (hour > 23) return InputError{prefix + "time", v, "hour must be 0 to 23"};
     if (minute > 59) return InputError{prefix + "time", v, "minute must be 0 to 59"};
-    s.BirthHour = std::to_string(hour);
-    s.BirthMinute = std::to_string(minute);
+    // As the form turns its 12-hour list into 24-hour text: "0" for 12 AM, the
+    // list's "02" for 2 AM, the sum "14" for 2 PM.
+    s.BirthHour = hour == 0 ? "0" : (hour < 10 ? "0" : "") + std::to_string(hour);
+    s.BirthMinute = (minute < 10 ? "0" : "") + std::to_string(minute);
   }
   if (auto e = ReadAngle(prefix + "lat", text.lat, 'N', 'S', 90, s.LatDeg, s.LatMin, s.LatNS)) return e;
   if (auto e = ReadAngle(prefix + "lon", text.lon, 'E', 'W', 180, s.LonDeg, s.LonMin, s.LonEW)) return e;
@@ -124,32 +133,35 @@ std::optional<InputError> ApplyBirthText(const BirthText& text, const std::strin
     s.TimeDiff = *hours;
     s.TimeDiffEW = std::string(1, side);
   }
-  // Ayanamsa, compared case-sensitively as the engine compares it.
-  {
-    const std::string& v = text.ayanamsa;
-    if (v != "Lahiri" && v != "Raman" && v != "KP" && v != "Sayana" && v != "Custom") {
-      return InputError{prefix + "ayanamsa", v, "must be one of Lahiri, Raman, KP, Sayana, Custom"};
-    }
-    double zeroYear = 0, progress = 0;
-    if (v == "Custom") {
-      if (!text.zeroYear) return InputError{prefix + "zero-year", "", "Custom needs a zero year"};
-      if (!text.progress) return InputError{prefix + "progress", "", "Custom needs a yearly progress"};
-      const auto z = SignedNumber(*text.zeroYear);
-      if (!z || *z != std::trunc(*z) || std::fabs(*z) > 9999) {
-        return InputError{prefix + "zero-year", *text.zeroYear, "expected a whole year"};
-      }
-      const auto p = SignedNumber(*text.progress);
-      if (!p || std::fabs(*p) > 3600) {
-        return InputError{prefix + "progress", *text.progress, "expected seconds of arc a year, at most 3600"};
-      }
-      zeroYear = *z;
-      progress = *p;
-    }
-    s.AyanamsaName = v;
-    s.AyanamsaInForce = v;
-    s.PrefYear = s.YearInForce = zeroYear;
-    s.PrefProgress = s.ProgressInForce = progress;
+  return std::nullopt;
+}
+
+std::optional<InputError> ApplyAyanamsa(const std::string& v, const std::optional<std::string>& zeroYearText,
+                                        const std::optional<std::string>& progressText, const std::string& prefix,
+                                        HoroscopeState& s) {
+  // Compared case-sensitively, as the engine compares it.
+  if (v != "Lahiri" && v != "Raman" && v != "KP" && v != "Sayana" && v != "Custom") {
+    return InputError{prefix + "ayanamsa", v, "must be one of Lahiri, Raman, KP, Sayana, Custom"};
   }
+  double zeroYear = 0, progress = 0;
+  if (v == "Custom") {
+    if (!zeroYearText) return InputError{prefix + "zero-year", "", "Custom needs a zero year"};
+    if (!progressText) return InputError{prefix + "progress", "", "Custom needs a yearly progress"};
+    const auto z = SignedNumber(*zeroYearText);
+    if (!z || *z != std::trunc(*z) || std::fabs(*z) > 9999) {
+      return InputError{prefix + "zero-year", *zeroYearText, "expected a whole year"};
+    }
+    const auto p = SignedNumber(*progressText);
+    if (!p || std::fabs(*p) > 3600) {
+      return InputError{prefix + "progress", *progressText, "expected seconds of arc a year, at most 3600"};
+    }
+    zeroYear = *z;
+    progress = *p;
+  }
+  s.AyanamsaName = v;
+  s.AyanamsaInForce = v;
+  s.PrefYear = s.YearInForce = zeroYear;
+  s.PrefProgress = s.ProgressInForce = progress;
   return std::nullopt;
 }
 

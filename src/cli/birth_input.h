@@ -33,4 +33,13 @@ struct InputError {
 // ("--" for flags, "" for CSV columns).
 std::optional<InputError> ApplyBirthText(const BirthText& text, const std::string& prefix, HoroscopeState& state);
 
+// The same for the date, time and place alone.
+std::optional<InputError> ApplyBirthDetails(const BirthText& text, const std::string& prefix, HoroscopeState& state);
+
+// The same for the ayanamsa alone (its name, and for Custom the zero year and
+// the progress), into the preference and the copies in force.
+std::optional<InputError> ApplyAyanamsa(const std::string& name, const std::optional<std::string>& zeroYear,
+                                        const std::optional<std::string>& progress, const std::string& prefix,
+                                        HoroscopeState& state);
+
 }  // namespace kelvaro::cli

@@ -13,6 +13,8 @@ int RunCli(int argc, const char* const* argv, std::ostream& out, std::ostream& e
   Session session{out, err};
   RegisterPositionsCommand(app, session);
   RegisterStoreCommands(app, session);
+  RegisterSummaryCommand(app, session);
+  RegisterConvertCommand(app, session);
   try {
     app.parse(argc, argv);
   } catch (const CLI::CallForHelp&) {

@@ -29,5 +29,7 @@ int RunCli(int argc, const char* const* argv, std::ostream& out, std::ostream& e
 // to the session and set its status.
 void RegisterPositionsCommand(CLI::App& app, Session& session);
 void RegisterStoreCommands(CLI::App& app, Session& session);
+void RegisterSummaryCommand(CLI::App& app, Session& session);
+void RegisterConvertCommand(CLI::App& app, Session& session);
 
 }  // namespace kelvaro::cli

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "cli/cli.h"
+#include "cli/database_option.h"
 #include "store/chart_store.h"
 #include "store/city_master.h"
 #include "store/country_master.h"
@@ -44,22 +45,11 @@ struct BadInput {
   std::string message;
 };
 
-std::filesystem::path DatabasePath(const StoreOptions& o) {
-  if (!o.database.empty()) return o.database;
-  const std::filesystem::path path = store::DefaultDatabasePath();
-  std::error_code ec;
-  std::filesystem::create_directories(path.parent_path(), ec);
-  if (ec) {
-    throw store::StoreError("Cannot create the data folder \"" + path.parent_path().string() + "\": " + ec.message());
-  }
-  return path;
-}
-
 // Runs one command against the database, turning its failures into the
 // exit status: 2 for input the user can mend, 1 for a file failure.
 void Run(Session& session, const StoreOptions& o, const std::function<void(Database&)>& body) {
   try {
-    Database db(DatabasePath(o));
+    Database db(DatabasePathOrDefault(o.database));
     body(db);
   } catch (const BadInput& e) {
     session.err << "kelvaro-cli: " << e.message << "\n";

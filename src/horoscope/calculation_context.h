@@ -2,22 +2,58 @@
 // CalculationContext: everything one run of the program calculates with. The
 // shell or the CLI owns one for the whole run; there is no global state.
 // The long-lived instances keep their carry-over between calls, as the
-// calculation classes require.
+// calculation classes require (the lunar calendar keeps a Sun longitude from
+// one horoscope to the next), so a context is neither copied nor moved.
+#include <functional>
+#include <memory>
+#include <string>
+
 #include "astronomy/find_planet_position.h"
 #include "astronomy/find_sunrise.h"
 #include "astronomy/find_sunset.h"
+#include "horoscope/birth_summary.h"
 #include "horoscope/horoscope_state.h"
+#include "panchanga/kaliyuga_year_table.h"
+#include "panchanga/lunar_calendar.h"
+#include "panchanga/rasi.h"
+#include "panchanga/solar_calendar.h"
+#include "panchanga/star.h"
 #include "panchanga/times.h"
+#include "panchanga/tithi.h"
+#include "panchanga/yoga.h"
 
 namespace kelvaro {
 
 struct CalculationContext {
+  // `years` is where the calendars read KaliyugaYearDetails (the store's table
+  // in the program); without one, no year has a row. It must outlive the
+  // context.
+  explicit CalculationContext(const KaliyugaYearTable* years = nullptr);
+  CalculationContext(const CalculationContext&) = delete;
+  CalculationContext& operator=(const CalculationContext&) = delete;
+
   HoroscopeState state = SampleChart();
+  BirthSummary summary;
+  std::string CurrentView;  // the view the user last chose; "" is the details
+
   ClsFindPlanetPosition positions;          // the driver's facade
   ClsFindPlanetPosition calendarPositions;  // the calendar module's facade
   clsFindSunrise sunrise;
   clsFindSunSet sunset;
   clsTimes times;
+  clsRasi rasi;
+  clsStar star;
+  clsTithi tithi;
+  clsYoga yoga;
+  const KaliyugaYearTable& years;
+  LunarCalendar lunar;
+  SolarCalendar solar;
+
+  // The day the program runs, for the Kali day count; the clock by default.
+  std::function<OleDate()> today;
+  // Called with (done, total) as the calculation moves: 0 at the start, then
+  // after each of its fifteen marked steps.
+  std::function<void(int, int)> OnProgress;
 };
 
 // The Rasi pass and the Navamsa pass differ only in the division size.

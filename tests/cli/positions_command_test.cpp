@@ -10,23 +10,10 @@
 
 #include "astronomy/find_planet_position.h"
 #include "cli/cli.h"
+#include "cli/run_tool.h"
 
 namespace kelvaro::cli {
 namespace {
-
-struct CliRun {
-  int status;
-  std::string out, err;
-};
-
-CliRun RunArgs(std::vector<std::string> args) {
-  args.insert(args.begin(), "kelvaro-cli");
-  std::vector<const char*> argv;
-  for (const auto& a : args) argv.push_back(a.c_str());
-  std::ostringstream out, err;
-  const int status = RunCli(static_cast<int>(argv.size()), argv.data(), out, err);
-  return {status, out.str(), err.str()};
-}
 
 std::vector<std::string> Sample(std::vector<std::string> extra = {}) {
   std::vector<std::string> a = {"positions", "--date", "14/07/1965", "--time", "14:15", "--lat",
@@ -43,7 +30,7 @@ std::vector<std::string> Lines(const std::string& text) {
 }
 
 TEST(PositionsCommand, JsonCarriesEveryKeyInOrder) {
-  const CliRun r = RunArgs(Sample({"--ayanamsa", "Lahiri", "--json"}));
+  const Outcome r = RunTool(Sample({"--ayanamsa", "Lahiri", "--json"}));
   ASSERT_EQ(r.status, 0) << r.err;
   const auto j = nlohmann::ordered_json::parse(r.out);
   std::vector<std::string> keys;
@@ -67,7 +54,7 @@ TEST(PositionsCommand, JsonCarriesEveryKeyInOrder) {
 }
 
 TEST(PositionsCommand, TableShowsDegreesAndRasiNames) {
-  const CliRun r = RunArgs(Sample());
+  const Outcome r = RunTool(Sample());
   ASSERT_EQ(r.status, 0) << r.err;
   EXPECT_NE(r.out.find("Moon          275°27'22\"  Capricon"), std::string::npos) << r.out;
   EXPECT_NE(r.out.find("Ayanamsa      -23°22'20\"  (Lahiri)"), std::string::npos) << r.out;
@@ -93,7 +80,7 @@ TEST(PositionsCommand, BadInputNamesTheFieldAndPrintsNothing) {
       {Sample({"--ayanamsa", "Custom", "--zero-year", "abc", "--progress", "50"}), "--zero-year \"abc\""},
   };
   for (const auto& c : cases) {
-    const CliRun r = RunArgs(c.args);
+    const Outcome r = RunTool(c.args);
     EXPECT_EQ(r.status, kExitBadInput) << c.message;
     EXPECT_TRUE(r.out.empty()) << c.message;
     EXPECT_NE(r.err.find(c.message), std::string::npos) << r.err;
@@ -102,7 +89,7 @@ TEST(PositionsCommand, BadInputNamesTheFieldAndPrintsNothing) {
 }
 
 TEST(PositionsCommand, CustomAyanamsaTakesItsYearAndProgress) {
-  const CliRun r = RunArgs(Sample({"--ayanamsa", "Custom", "--zero-year", "397", "--progress", "50.2388475", "--json"}));
+  const Outcome r = RunTool(Sample({"--ayanamsa", "Custom", "--zero-year", "397", "--progress", "50.2388475", "--json"}));
   ASSERT_EQ(r.status, 0) << r.err;
   ClsFindPlanetPosition f;
   f.FindFixValues(OleDate::FromParts(1965, 7, 14, 14, 15), "N", 17, 20, "E", 78, 30, 5.5, "E", 0, "Custom", 397,
@@ -128,7 +115,7 @@ TEST_F(BatchFile, GoodRowsPrintInOrderAndBadRowsAreCounted) {
       "01/01/2000,00:00,51N30,0W07,0E,KP\r\n"
       "\n"
       "14/07/1965,14:15,17N20,78E30,5.5E,Sayana\n");
-  const CliRun r = RunArgs({"positions", "--batch", path_.string()});
+  const Outcome r = RunTool({"positions", "--batch", path_.string()});
   EXPECT_EQ(r.status, kExitBadInput);
   const auto out = Lines(r.out);
   ASSERT_EQ(out.size(), 3u);
@@ -145,19 +132,19 @@ TEST_F(BatchFile, GoodRowsPrintInOrderAndBadRowsAreCounted) {
 
 TEST_F(BatchFile, SameAnswerAsOneBirthAtATime) {
   Write("date,time,lat,lon,tz,ayanamsa\n14/07/1965,14:15,17N20,78E30,5.5E,Lahiri\n");
-  const CliRun batch = RunArgs({"positions", "--batch", path_.string()});
-  const CliRun single = RunArgs(Sample({"--json"}));
+  const Outcome batch = RunTool({"positions", "--batch", path_.string()});
+  const Outcome single = RunTool(Sample({"--json"}));
   ASSERT_EQ(batch.status, 0) << batch.err;
   EXPECT_EQ(nlohmann::json::parse(batch.out), nlohmann::json::parse(single.out));
 }
 
 TEST_F(BatchFile, WrongHeaderOrMissingFileIsRefused) {
   Write("date,time,latitude,lon,tz,ayanamsa\n14/07/1965,14:15,17N20,78E30,5.5E,Lahiri\n");
-  const CliRun r = RunArgs({"positions", "--batch", path_.string()});
+  const Outcome r = RunTool({"positions", "--batch", path_.string()});
   EXPECT_EQ(r.status, kExitBadInput);
   EXPECT_TRUE(r.out.empty());
   EXPECT_NE(r.err.find("header"), std::string::npos);
-  const CliRun missing = RunArgs({"positions", "--batch", (path_.string() + ".none")});
+  const Outcome missing = RunTool({"positions", "--batch", (path_.string() + ".none")});
   EXPECT_EQ(missing.status, kExitFailure);
   EXPECT_NE(missing.err.find("cannot open"), std::string::npos);
 }

@@ -10,6 +10,7 @@
 #include <sstream>
 
 #include "cli/cli.h"
+#include "cli/run_tool.h"
 #include "store/chart_store.h"
 #include "store/country_master.h"
 #include "store/database.h"
@@ -21,22 +22,6 @@ namespace {
 
 using store::testing::FileBytes;
 using store::testing::TempFolder;
-
-struct Outcome {
-  int status;
-  std::string out;
-  std::string err;
-};
-
-Outcome RunTool(std::vector<std::string> args) {
-  args.insert(args.begin(), "kelvaro-cli");
-  std::vector<const char*> argv;
-  for (const auto& a : args) argv.push_back(a.c_str());
-  std::ostringstream out;
-  std::ostringstream err;
-  const int status = RunCli(static_cast<int>(argv.size()), argv.data(), out, err);
-  return {status, out.str(), err.str()};
-}
 
 // "     7  Velnesh~14-Jul-1965\n" for each chart: the number right-aligned in six columns.
 std::string ChartLines(const std::vector<std::pair<std::int64_t, std::string>>& rows) {

@@ -14,12 +14,11 @@
 namespace kelvaro {
 namespace {
 
-CalculationContext SampleAt(int day, int hour, int minute) {
-  CalculationContext ctx;
+// The sample chart at another day and clock.
+void SetBirth(CalculationContext& ctx, int day, int hour, int minute) {
   ctx.state.BirthDay = std::to_string(day);
   ctx.state.BirthHour = std::to_string(hour);
   ctx.state.BirthMinute = std::to_string(minute);
-  return ctx;
 }
 
 // Start plus k parts of the span, the part being span / n in whole seconds
@@ -65,7 +64,8 @@ TEST(ChartPositions, DayBirthTakesTheDayParts) {
 }
 
 TEST(ChartPositions, NightBirthAfterMidnightBelongsToTheDayBefore) {
-  CalculationContext ctx = SampleAt(14, 3, 0);  // 03:00 on Wednesday: Tuesday's night
+  CalculationContext ctx;
+  SetBirth(ctx, 14, 3, 0);  // 03:00 on Wednesday: Tuesday's night
   ComputeChartPositions(ctx, kRasiDivision);
   const HoroscopeState& s = ctx.state;
   EXPECT_EQ(s.DayOrNight, "Night");
@@ -81,7 +81,8 @@ TEST(ChartPositions, NightBirthAfterMidnightBelongsToTheDayBefore) {
 }
 
 TEST(ChartPositions, NightRiseAfterMidnightFallsOnTheNextDate) {
-  CalculationContext ctx = SampleAt(14, 22, 0);  // Wednesday night, before midnight
+  CalculationContext ctx;
+  SetBirth(ctx, 14, 22, 0);  // Wednesday night, before midnight
   ComputeChartPositions(ctx, kRasiDivision);
   const HoroscopeState& s = ctx.state;
   EXPECT_EQ(s.DayOrNight, "Night");
@@ -103,17 +104,20 @@ TEST(ChartPositions, BothLimitsOfTheDayAreNight) {
   CalculationContext probe;
   ComputeChartPositions(probe, kRasiDivision);
   for (const OleDate limit : {probe.state.SunriseOfBirthDay, probe.state.SunsetOfBirthDay}) {
-    CalculationContext ctx = SampleAt(14, limit.Hour(), limit.Minute());
+    CalculationContext ctx;
+  SetBirth(ctx, 14, limit.Hour(), limit.Minute());
     ComputeChartPositions(ctx, kRasiDivision);
     EXPECT_EQ(ctx.state.DayOrNight, "Night") << FormatDate(limit, "HH:NN");
   }
   // At sunrise the clock reads AM: the timings are those of the day before.
-  CalculationContext atSunrise = SampleAt(14, probe.state.SunriseOfBirthDay.Hour(),
+  CalculationContext atSunrise;
+  SetBirth(atSunrise, 14, probe.state.SunriseOfBirthDay.Hour(),
                                           probe.state.SunriseOfBirthDay.Minute());
   ComputeChartPositions(atSunrise, kRasiDivision);
   EXPECT_EQ(FormatDate(atSunrise.state.DaySunrise, "DD/MM/YYYY"), "13/07/1965");
   // One minute after sunrise it is day.
-  CalculationContext after = SampleAt(14, probe.state.SunriseOfBirthDay.Hour(),
+  CalculationContext after;
+  SetBirth(after, 14, probe.state.SunriseOfBirthDay.Hour(),
                                       probe.state.SunriseOfBirthDay.Minute() + 1);
   ComputeChartPositions(after, kRasiDivision);
   EXPECT_EQ(after.state.DayOrNight, "Day");
@@ -133,7 +137,8 @@ TEST(ChartPositions, NavamsaPassChangesOnlyTheRasiNumbers) {
 }
 
 TEST(ChartPositions, UnreadableBirthTextIsAnError) {
-  CalculationContext ctx = SampleAt(31, 14, 15);
+  CalculationContext ctx;
+  SetBirth(ctx, 31, 14, 15);
   ctx.state.BirthMonth = "6";  // 31 June
   EXPECT_THROW(ComputeChartPositions(ctx, kRasiDivision), CalculationError);
 }

@@ -26,38 +26,14 @@
 #include "common/calculation_error.h"
 #include "common/date_text.h"
 #include "panchanga/lunar_calendar.h"
+#include "support/year_table.h"
 
 namespace kelvaro {
 namespace {
 
-class Table : public KaliyugaYearTable {
- public:
-  std::map<int, KaliyugaYearValues> rows;
-  std::optional<KaliyugaYearValues> Row(int yearno) const override {
-    const auto it = rows.find(yearno);
-    if (it == rows.end()) return std::nullopt;
-    return it->second;
-  }
-};
-
-Table SeedRows() {
-  Table t;
-  std::ifstream in(std::string(KELVARO_DATA_DIR) + "/kaliyuga_years.csv");
-  std::string line;
-  std::getline(in, line);
-  while (std::getline(in, line)) {
-    std::istringstream f(line);
-    std::string yearno, name, yearVal, dayVal, remain;
-    std::getline(f, yearno, ',');
-    std::getline(f, name, ',');
-    std::getline(f, yearVal, ',');
-    std::getline(f, dayVal, ',');
-    std::getline(f, remain, ',');
-    t.rows[std::stoi(yearno)] = {name, std::stod(yearVal), static_cast<std::int16_t>(std::stoi(dayVal)),
-                                 std::stod(remain)};
-  }
-  return t;
-}
+using testing::FixedDay;
+using testing::MapYearTable;
+using testing::SeedYearTable;
 
 LunarCalendarInputs Hyderabad() {
   LunarCalendarInputs in;
@@ -68,7 +44,7 @@ LunarCalendarInputs Hyderabad() {
 
 // The shared instances of one run.
 struct OneRun {
-  Table seed = SeedRows();
+  MapYearTable seed = SeedYearTable();
   ClsFindPlanetPosition positions;
   clsTithi tithi;
   clsFindSunrise sunrise;
@@ -120,7 +96,7 @@ TEST(LunarCalendar, MonthNamesByKindAndSign) {
 }
 
 TEST(LunarCalendar, YearNameOfAMonth) {
-  const Table seed = SeedRows();  // 2014 is row 28 "Jaya", 2015 row 29 "Manmatha"
+  const MapYearTable seed = SeedYearTable();  // 2014 is row 28 "Jaya", 2015 row 29 "Manmatha"
   const struct {
     const char* month;
     int y, mo;

@@ -14,45 +14,14 @@
 #include "astronomy/find_sunset.h"
 #include "common/date_text.h"
 #include "panchanga/solar_calendar.h"
+#include "support/year_table.h"
 
 namespace kelvaro {
 namespace {
 
-class Table : public KaliyugaYearTable {
- public:
-  std::map<int, KaliyugaYearValues> rows;
-  std::optional<KaliyugaYearValues> Row(int yearno) const override {
-    const auto it = rows.find(yearno);
-    if (it == rows.end()) return std::nullopt;
-    return it->second;
-  }
-};
-
-// The sixty rows of the seed file.
-Table SeedRows() {
-  Table t;
-  std::ifstream in(std::string(KELVARO_DATA_DIR) + "/kaliyuga_years.csv");
-  std::string line;
-  std::getline(in, line);
-  while (std::getline(in, line)) {
-    std::istringstream f(line);
-    std::string yearno, name, yearVal, dayVal, remain;
-    std::getline(f, yearno, ',');
-    std::getline(f, name, ',');
-    std::getline(f, yearVal, ',');
-    std::getline(f, dayVal, ',');
-    std::getline(f, remain, ',');
-    t.rows[std::stoi(yearno)] = {name, std::stod(yearVal), static_cast<std::int16_t>(std::stoi(dayVal)),
-                                 std::stod(remain)};
-  }
-  return t;
-}
-
-// Every day has sunrise 06:00 and sunset 18:30.
-SunTimes FixedDay(OleDate date) {
-  return {OleDate::FromParts(date.Year(), date.Month(), date.Day(), 6, 0),
-          OleDate::FromParts(date.Year(), date.Month(), date.Day(), 18, 30)};
-}
+using testing::FixedDay;
+using testing::MapYearTable;
+using testing::SeedYearTable;
 
 std::string Text(OleDate moment) { return FormatDate(moment, "DD/MM/YYYY HH:NN"); }
 
@@ -65,7 +34,7 @@ const OleDate kToday = OleDate::FromParts(2024, 1, 1);
 // hours, + Int(24 * frac(hours)) minutes. Magha's t is 12 Feb 2001 19:22, after
 // sunset, so Magha begins at the next sunrise.
 TEST(SolarCalendar, MonthStartsOfTwoThousandOnFixedDays) {
-  const Table seed = SeedRows();
+  const MapYearTable seed = SeedYearTable();
   const auto start = FindYearStartAndFraction(2000, seed, FixedDay);
   ASSERT_TRUE(start.has_value());
   EXPECT_EQ(Text(start->moment), "13/04/2000 06:00");
@@ -87,7 +56,7 @@ TEST(SolarCalendar, MonthStartsOfTwoThousandOnFixedDays) {
 }
 
 TEST(SolarCalendar, DatesAroundTheYearStartOnFixedDays) {
-  const Table seed = SeedRows();
+  const MapYearTable seed = SeedYearTable();
   // 1999 (row 13, "Pramathi"): f = 0.455 + 0.7609 = 1.2159, weekday 1 + 2 + 1
   // = 4, Wednesday, 14 April 1999. 2000 starts 13 April 2000 06:00 (above).
   const struct {
@@ -128,7 +97,7 @@ TEST(SolarCalendar, DatesAroundTheYearStartOnFixedDays) {
 // No year before 1866 has a start: no solar date, Kaliyuga year 0, and the
 // month name of the date before stays in place.
 TEST(SolarCalendar, NoSolarDateBefore1866KeepsThePreviousMonthName) {
-  const Table seed = SeedRows();
+  const MapYearTable seed = SeedYearTable();
   SolarCalendar calendar(seed);
   const SolarDate first = calendar.SolarDateOf(OleDate::FromParts(1850, 6, 1, 12, 0), kToday, FixedDay);
   EXPECT_FALSE(first.found);
@@ -197,7 +166,7 @@ TEST(SolarCalendar, KaliDaysCountFromTheDateOrigin) {
 }
 
 TEST(SolarCalendar, YearNamesAndTheirLimits) {
-  const Table seed = SeedRows();
+  const MapYearTable seed = SeedYearTable();
   EXPECT_EQ(KaliyugaYearName(1986, seed), "Akshaya");
   EXPECT_EQ(KaliyugaYearName(1965, seed), "Vishvavasu");
   EXPECT_EQ(KaliyugaYearName(1987, seed), "Prabhava");
@@ -211,7 +180,7 @@ TEST(SolarCalendar, YearNamesAndTheirLimits) {
 // 01:10, before that day's sunset, so Jyeshtha begins at the sunrise of
 // 15 June; 14 July is its 30th day. 1 March 2000 gives 1999's Magha as on fixed days.
 TEST(SolarCalendar, SampleChartAtHyderabad) {
-  const Table seed = SeedRows();
+  const MapYearTable seed = SeedYearTable();
   clsFindSunrise rise;
   clsFindSunSet set;
   const CalendarPlace hyderabad{"N", 17, 20, "E", 78, 30, 5.5, "E"};

@@ -12,25 +12,14 @@
 #include "astronomy/find_sunset.h"
 #include "common/date_text.h"
 #include "panchanga/solar_year.h"
+#include "support/year_table.h"
 
 namespace kelvaro {
 namespace {
 
-class Table : public KaliyugaYearTable {
- public:
-  std::map<int, KaliyugaYearValues> rows;
-  std::optional<KaliyugaYearValues> Row(int yearno) const override {
-    const auto it = rows.find(yearno);
-    if (it == rows.end()) return std::nullopt;
-    return it->second;
-  }
-};
-
-// Every day has sunrise 06:00 and sunset 18:30.
-SunTimes FixedDay(OleDate date) {
-  return {OleDate::FromParts(date.Year(), date.Month(), date.Day(), 6, 0),
-          OleDate::FromParts(date.Year(), date.Month(), date.Day(), 18, 30)};
-}
+using testing::FixedDay;
+using testing::MapYearTable;
+using testing::SeedYearTable;
 
 TEST(SolarYear, WeekdayNamesAndYearNumbers) {
   EXPECT_EQ(WeekdayNameOf(1), "Sunday");
@@ -62,7 +51,7 @@ TEST(SolarYear, CandidateAndFractionRules) {
       {0.7891, 2, 13, 6, "f = 1.55: 13 h and 4 min is 19:04, after sunset: the next sunrise"},
   };
   for (const auto& c : cases) {
-    Table t;
+    MapYearTable t;
     t.rows[14] = {"Vikrama", 2000, static_cast<std::int16_t>(c.dayVal), c.remain};
     const auto start = FindYearStart(2000, t, FixedDay);
     ASSERT_TRUE(start.has_value()) << c.why;
@@ -73,7 +62,7 @@ TEST(SolarYear, CandidateAndFractionRules) {
 }
 
 TEST(SolarYear, PeriodsAndMissingRows) {
-  Table t;
+  MapYearTable t;
   // 1900 (Yearno 34, first period: +0.7189, +4): YearRemain 0.5 gives Int(f) 1,
   // DayVal -3 a sum of 2, Monday, which is 16 April 1900: the fifth
   // candidate, which the first period does not try.
@@ -89,26 +78,6 @@ TEST(SolarYear, PeriodsAndMissingRows) {
   t.rows[40] = {"Paridhavi", 1846, 1, 0.1};
   EXPECT_FALSE(FindYearStart(1846, t, FixedDay).has_value());
   EXPECT_FALSE(FindYearStart(1999, t, FixedDay).has_value());
-}
-
-// The sixty rows of the seed file.
-Table SeedRows() {
-  Table t;
-  std::ifstream in(std::string(KELVARO_DATA_DIR) + "/kaliyuga_years.csv");
-  std::string line;
-  std::getline(in, line);
-  while (std::getline(in, line)) {
-    std::istringstream f(line);
-    std::string yearno, name, yearVal, dayVal, remain;
-    std::getline(f, yearno, ',');
-    std::getline(f, name, ',');
-    std::getline(f, yearVal, ',');
-    std::getline(f, dayVal, ',');
-    std::getline(f, remain, ',');
-    t.rows[std::stoi(yearno)] = {name, std::stod(yearVal), static_cast<std::int16_t>(std::stoi(dayVal)),
-                                 std::stod(remain)};
-  }
-  return t;
 }
 
 SunTimes Ujjain(OleDate date) {
@@ -133,7 +102,7 @@ OleDate AriesEntry(int year) {
 }
 
 TEST(SolarYear, SeedRowsLandOnTheDayOfTheSunsEntryIntoAries) {
-  const Table seed = SeedRows();
+  const MapYearTable seed = SeedYearTable();
   ASSERT_EQ(seed.rows.size(), 60u);
   EXPECT_EQ(seed.rows.at(1).yearname, "Prabhava");
   for (int year = 1987; year <= 2046; ++year) {
