@@ -49,17 +49,11 @@ std::vector<BirthSummary::Field> BirthSummary::Fields() const {
 
 namespace {
 
-OleDate SunriseOn(CalculationContext& ctx, OleDate date) {
-  const HoroscopeState& s = ctx.state;
-  return ctx.sunrise.FnFindSunrise(date, s.LatNS, s.LatDeg, s.LatMin, s.LonEW, s.LonDeg, s.LonMin, 0, s.TimeDiff,
-                                   s.TimeDiffEW);
-}
-
 // Sunrise of the day that holds the moment: the day before's when the moment
 // is less than a whole minute after that date's sunrise (or before it).
 OleDate SunriseOfTheDay(CalculationContext& ctx, OleDate moment) {
-  OleDate sunrise = SunriseOn(ctx, moment);
-  if (DateDiff(Interval::Minute, sunrise, moment) < 1) sunrise = SunriseOn(ctx, DateAdd(Interval::Day, -1, moment));
+  OleDate sunrise = SunriseAtBirthPlace(ctx, moment);
+  if (DateDiff(Interval::Minute, sunrise, moment) < 1) sunrise = SunriseAtBirthPlace(ctx, DateAdd(Interval::Day, -1, moment));
   return sunrise;
 }
 

@@ -29,4 +29,16 @@ CalculationContext::CalculationContext(const KaliyugaYearTable* yearTable)
       solar(years),
       today(SystemToday) {}
 
+OleDate SunriseAtBirthPlace(CalculationContext& ctx, OleDate date) {
+  const HoroscopeState& s = ctx.state;
+  return ctx.sunrise.FnFindSunrise(date, s.LatNS, s.LatDeg, s.LatMin, s.LonEW, s.LonDeg, s.LonMin, 0, s.TimeDiff,
+                                   s.TimeDiffEW);
+}
+
+OleDate SunsetAtBirthPlace(CalculationContext& ctx, OleDate date) {
+  const HoroscopeState& s = ctx.state;
+  return ctx.sunset.FnFindSunset(date, s.LatNS, s.LatDeg, s.LatMin, s.LonEW, s.LonDeg, s.LonMin, 0, s.TimeDiff,
+                                 s.TimeDiffEW);
+}
+
 }  // namespace kelvaro

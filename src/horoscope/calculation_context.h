@@ -60,6 +60,10 @@ struct CalculationContext {
 inline constexpr double kRasiDivision = 30;
 inline constexpr double kNavamsaDivision = 3.33333333333333;  // this literal, not a third of 10
 
+// Sunrise and sunset of a civil date at the birth place in force.
+OleDate SunriseAtBirthPlace(CalculationContext& ctx, OleDate date);
+OleDate SunsetAtBirthPlace(CalculationContext& ctx, OleDate date);
+
 // One position pass: the moment from the birth text, the ten longitudes and
 // their rasis under `division`, the day's limits, Gulika and Maandi. Raises
 // CalculationError when the birth text is not a date or a step fails.

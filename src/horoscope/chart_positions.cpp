@@ -9,18 +9,6 @@ namespace kelvaro {
 
 namespace {
 
-OleDate SunriseOn(CalculationContext& ctx, OleDate date) {
-  const HoroscopeState& s = ctx.state;
-  return ctx.sunrise.FnFindSunrise(date, s.LatNS, s.LatDeg, s.LatMin, s.LonEW, s.LonDeg, s.LonMin, 0, s.TimeDiff,
-                                   s.TimeDiffEW);
-}
-
-OleDate SunsetOn(CalculationContext& ctx, OleDate date) {
-  const HoroscopeState& s = ctx.state;
-  return ctx.sunset.FnFindSunset(date, s.LatNS, s.LatDeg, s.LatMin, s.LonEW, s.LonDeg, s.LonMin, 0, s.TimeDiff,
-                                 s.TimeDiffEW);
-}
-
 // The date of `day` joined to the clock of `clock`, to the whole minute, as
 // "dd/mmm/yyyy" and "hh:mm AM/PM" texts joined and read back give it.
 OleDate JoinDateAndClock(OleDate day, OleDate clock) {
@@ -76,9 +64,9 @@ void ComputeChartPositions(CalculationContext& ctx, double division) {
   }
 
   // 5. The limits of the civil date.
-  s.SunriseOfBirthDay = SunriseOn(ctx, s.BirthMomentDate);
-  s.SunsetOfBirthDay = SunsetOn(ctx, s.BirthMomentDate);
-  s.SunriseNextDay = SunriseOn(ctx, DateAdd(Interval::Day, 1, s.BirthMomentDate));
+  s.SunriseOfBirthDay = SunriseAtBirthPlace(ctx, s.BirthMomentDate);
+  s.SunsetOfBirthDay = SunsetAtBirthPlace(ctx, s.BirthMomentDate);
+  s.SunriseNextDay = SunriseAtBirthPlace(ctx, DateAdd(Interval::Day, 1, s.BirthMomentDate));
 
   // 6. Day or night: both limits lie outside the day, so a birth exactly at
   // sunrise or sunset is a night birth.
@@ -92,9 +80,9 @@ void ComputeChartPositions(CalculationContext& ctx, double division) {
     s.DayOrNight = "Night";
     // After midnight and before sunrise the astrological day is the one before.
     s.DayCurrentDate = IsAm(s.BirthMomentDate) ? DateAdd(Interval::Day, -1, s.BirthMomentDate) : s.BirthMomentDate;
-    s.DaySunrise = SunriseOn(ctx, s.DayCurrentDate);
-    s.DaySunset = SunsetOn(ctx, s.DayCurrentDate);
-    s.DayNextSunrise = SunriseOn(ctx, DateAdd(Interval::Day, 1, s.DayCurrentDate));
+    s.DaySunrise = SunriseAtBirthPlace(ctx, s.DayCurrentDate);
+    s.DaySunset = SunsetAtBirthPlace(ctx, s.DayCurrentDate);
+    s.DayNextSunrise = SunriseAtBirthPlace(ctx, DateAdd(Interval::Day, 1, s.DayCurrentDate));
   }
 
   // 7. The day and night parts.

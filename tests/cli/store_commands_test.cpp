@@ -40,23 +40,9 @@ class StoreCommands : public ::testing::Test {
   std::int64_t Save(const std::string& name, const std::string& gender, int hour) {
     store::Database db(Db());
     const auto india = store::CountryByName(db, "India")->id;
-    store::ChartFields f;
-    f.name = name;
+    store::ChartFields f = store::testing::SampleChartFields(name, india, store::ZonesOf(db, india).at(0).sno);
     f.gender = gender;
-    f.countryId = india;
-    f.city = "Hyderabad (A.P)";
-    f.day = "14";
-    f.month = "Jul";
-    f.year = "1965";
     f.hour = hour;
-    f.minute = 15;
-    f.latDeg = 17;
-    f.latNS = "N";
-    f.latMin = 20;
-    f.lonDeg = 78;
-    f.lonEW = "E";
-    f.lonMin = 30;
-    f.zoneSno = store::ZonesOf(db, india).at(0).sno;
     return store::SaveChart(db, f).id;
   }
 

@@ -54,23 +54,8 @@ TEST_F(SummaryAndConvert, FlagsOverrideThePreferences) {
 TEST_F(SummaryAndConvert, SummaryOfASavedChart) {
   {
     store::Database db(Db());
-    store::ChartFields f;
-    f.name = "Velnesh";
-    f.gender = "Male";
-    f.countryId = store::CountryByName(db, "India")->id;
-    f.city = "Hyderabad (A.P)";
-    f.day = "14";
-    f.month = "Jul";
-    f.year = "1965";
-    f.hour = 14;
-    f.minute = 15;
-    f.latDeg = 17;
-    f.latNS = "N";
-    f.latMin = 20;
-    f.lonDeg = 78;
-    f.lonEW = "E";
-    f.lonMin = 30;
-    f.zoneSno = store::ZonesOf(db, f.countryId).at(0).sno;
+    const auto india = store::CountryByName(db, "India")->id;
+    const auto f = store::testing::SampleChartFields("Velnesh", india, store::ZonesOf(db, india).at(0).sno);
     ASSERT_EQ(store::SaveChart(db, f).id, 1);
   }
   const Outcome saved = RunTool({"summary", "--chart", "1", "--database", Db(), "--json"});

@@ -22,27 +22,7 @@ class ChartStore : public ::testing::Test {
     kolkata_ = ZonesOf(db_, india_).at(0).sno;
   }
 
-  ChartFields Chart(const std::string& name) const {
-    ChartFields f;
-    f.name = name;
-    f.gender = "Male";
-    f.countryId = india_;
-    f.city = "Hyderabad (A.P)";
-    f.day = "14";
-    f.month = "Jul";
-    f.year = "1965";
-    f.hour = 14;
-    f.minute = 15;
-    f.second = 0;
-    f.latDeg = 17;
-    f.latNS = "N";
-    f.latMin = 20;
-    f.lonDeg = 78;
-    f.lonEW = "E";
-    f.lonMin = 30;
-    f.zoneSno = kolkata_;
-    return f;
-  }
+  ChartFields Chart(const std::string& name) const { return testing::SampleChartFields(name, india_, kolkata_); }
 
   std::string StoredName(std::int64_t sno) {
     SQLite::Statement q(db_.Connection(), "SELECT ChartName FROM ChartSave WHERE Sno = ?");

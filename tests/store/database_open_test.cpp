@@ -18,26 +18,7 @@ using testing::FileBytes;
 using testing::TempFolder;
 using testing::WriteFile;
 
-ChartFields SampleChart(const std::string& name) {
-  ChartFields f;
-  f.name = name;
-  f.gender = "Male";
-  f.countryId = 1;
-  f.city = "Hyderabad (A.P)";
-  f.day = "14";
-  f.month = "Jul";
-  f.year = "1965";
-  f.hour = 14;
-  f.minute = 15;
-  f.latDeg = 17;
-  f.latNS = "N";
-  f.latMin = 20;
-  f.lonDeg = 78;
-  f.lonEW = "E";
-  f.lonMin = 30;
-  f.zoneSno = 1;
-  return f;
-}
+ChartFields SampleChart(const std::string& name) { return testing::SampleChartFields(name, 1, 1); }
 
 // Expects a StoreError whose message names the file and holds `words`.
 template <class Body>

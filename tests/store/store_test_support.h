@@ -10,6 +10,8 @@
 #include <string>
 #include <vector>
 
+#include "store/chart_store.h"
+
 namespace kelvaro::store::testing {
 
 // A new empty folder under the system's temporary folder, removed with its
@@ -43,6 +45,29 @@ class TempFolder {
  private:
   std::filesystem::path path_;
 };
+
+// The sample chart as the birth form hands it to the store: Velnesh's birth,
+// 14 Jul 1965 14:15 at Hyderabad, with the given country and zone numbers.
+inline ChartFields SampleChartFields(const std::string& name, std::int64_t countryId, std::int64_t zoneSno) {
+  ChartFields f;
+  f.name = name;
+  f.gender = "Male";
+  f.countryId = countryId;
+  f.city = "Hyderabad (A.P)";
+  f.day = "14";
+  f.month = "Jul";
+  f.year = "1965";
+  f.hour = 14;
+  f.minute = 15;
+  f.latDeg = 17;
+  f.latNS = "N";
+  f.latMin = 20;
+  f.lonDeg = 78;
+  f.lonEW = "E";
+  f.lonMin = 30;
+  f.zoneSno = zoneSno;
+  return f;
+}
 
 inline std::string FileBytes(const std::filesystem::path& path) {
   std::ifstream in(path, std::ios::binary);
