@@ -36,6 +36,37 @@ const std::string& HoroscopeState::LongNameOf(Body body) const {
   }
 }
 
+ChartData ChartDataOf(const HoroscopeState& s) {
+  ChartData d;
+  for (int b = 0; b < kBodyCount; ++b) {
+    d.longitude[static_cast<size_t>(b)] = s.LongitudeOf(static_cast<Body>(b));
+    d.rasi[static_cast<size_t>(b)] = s.RasiOf(static_cast<Body>(b));
+  }
+  d.midHeaven = s.MidHeaven;
+  d.ayanamsa = s.Ayanamsa;
+  d.birthMoment = s.BirthMomentDate;
+  d.language = s.Language;
+  d.bhavaSystem = s.BhavaSystem;
+  d.chartStyle = s.ChartStyle;
+  d.daysInYear = s.DaysInYear;
+  d.ayanamsaInForce = s.AyanamsaInForce;
+  d.yearInForce = s.YearInForce;
+  d.progressInForce = s.ProgressInForce;
+  d.latNS = s.LatNS;
+  d.latDeg = s.LatDeg;
+  d.latMin = s.LatMin;
+  d.lonEW = s.LonEW;
+  d.lonDeg = s.LonDeg;
+  d.lonMin = s.LonMin;
+  d.timeDiff = s.TimeDiff;
+  d.timeDiffEW = s.TimeDiffEW;
+  d.ShortNames = s.ShortNames;
+  d.LongNames = s.LongNames;
+  d.RasiNames = s.RasiNames;
+  d.RasiShortNames = s.RasiShortNames;
+  return d;
+}
+
 HoroscopeState SampleChart() {
   HoroscopeState s;
   s.ChartName = "Velnesh";

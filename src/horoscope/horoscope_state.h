@@ -6,14 +6,11 @@
 #include <cstdint>
 #include <string>
 
+#include "analysis/chart_data.h"
 #include "common/ole_date.h"
 
 namespace kelvaro {
 
-// Canonical order of the bodies in tables, grids and loops; Gulika and Maandi
-// stand last where they appear.
-enum class Body { Lagna, Sun, Moon, Mars, Mercury, Jupiter, Venus, Saturn, Rahu, Ketu, Gulika, Maandi };
-inline constexpr int kBodyCount = 12;
 
 struct HoroscopeState {
   // Preferences in force.
@@ -76,6 +73,9 @@ struct HoroscopeState {
   const std::string& ShortNameOf(Body body) const { return ShortNames[static_cast<size_t>(body)]; }
   const std::string& LongNameOf(Body body) const;
 };
+
+// What the analysis steps read of the state.
+ChartData ChartDataOf(const HoroscopeState& state);
 
 // The first content of the birth details on a machine with no saved chart:
 // Velnesh, Male, 14 Jul 1965 14:15, Hyderabad (A.P), India, 17 20 N,
