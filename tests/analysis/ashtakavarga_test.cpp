@@ -1,0 +1,220 @@
+// The Ashtakavarga grid: one chart worked apart from the table's text, the
+// column totals that no chart can change, the turn of the whole grid with the
+// chart, the captions, and the Moon's star with the HouseNo that findstar
+// leaves over.
+#include "analysis/ashtakavarga.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <random>
+#include <string>
+
+#include "common/calculation_error.h"
+
+namespace kelvaro {
+namespace {
+
+constexpr std::array<const char*, 12> kEnglishRasis = {"Aries", "Taurus",     "Gemini",   "Cancer",
+                                                       "Leo",   "Virgo",      "Libra",    "Scorpio",
+                                                       "Sagitarius", "Capricon", "Aquarius", "Pisces"};
+
+// Rasi numbers in the order Sun, Moon, Mars, Mercury, Venus, Jupiter, Saturn,
+// Lagna (the table's order); Rahu's is given apart since it must not count.
+ChartData ChartWithRasis(const std::array<int, 8>& r, int rahu = 1) {
+  ChartData chart;
+  for (size_t i = 0; i < 12; ++i) chart.RasiNames[i] = kEnglishRasis[i];
+  const std::array<Body, 8> bodies = {Body::Sun,   Body::Moon,    Body::Mars,   Body::Mercury,
+                                      Body::Venus, Body::Jupiter, Body::Saturn, Body::Lagna};
+  for (size_t i = 0; i < 8; ++i) chart.rasi[static_cast<size_t>(bodies[i])] = static_cast<std::int16_t>(r[i]);
+  chart.rasi[static_cast<size_t>(Body::Rahu)] = static_cast<std::int16_t>(rahu);
+  chart.rasi[static_cast<size_t>(Body::Ketu)] = static_cast<std::int16_t>(rahu > 6 ? rahu - 6 : rahu + 6);
+  chart.longitude[static_cast<size_t>(Body::Moon)] = (r[1] - 1) * 30 + 12.5;
+  return chart;
+}
+
+int Cell(const Ashtakavarga& a, int row, int col) { return std::stoi(a.mshAshtaVarga.Text(row, col)); }
+
+// Counted by a separate script straight from the table's text, for Sun 4,
+// Moon 10, Mars 6, Mercury 4, Venus 5, Jupiter 2, Saturn 11, Lagna 12. The
+// Lagna in Pisces takes houses 2 and more across the wrap into Aries.
+TEST(Ashtakavarga, ChartCountedFromTheTable) {
+  constexpr int kExpected[12][11] = {
+      {3, 5, 3, 6, 6, 4, 4, 4, 2, 31, 37}, {5, 6, 4, 4, 5, 7, 3, 5, 3, 34, 42},
+      {4, 4, 3, 6, 5, 4, 6, 4, 4, 32, 40}, {3, 4, 2, 2, 7, 2, 4, 3, 5, 24, 32},
+      {3, 2, 2, 4, 4, 3, 3, 4, 6, 21, 31}, {4, 2, 4, 4, 5, 5, 1, 4, 2, 25, 31},
+      {5, 4, 3, 6, 3, 3, 2, 5, 5, 26, 36}, {3, 5, 4, 5, 4, 6, 2, 5, 3, 29, 37},
+      {4, 5, 5, 7, 5, 5, 3, 6, 2, 34, 42}, {4, 5, 2, 1, 4, 4, 4, 2, 6, 24, 32},
+      {4, 5, 2, 2, 3, 4, 3, 4, 4, 23, 31}, {6, 2, 5, 7, 5, 5, 4, 3, 1, 34, 38},
+  };
+  const ChartData chart = ChartWithRasis({4, 10, 6, 4, 5, 2, 11, 12}, 3);
+  clsStar star;
+  Ashtakavarga a;
+  FillAshtakavarga(chart, star, a);
+  ASSERT_EQ(a.mshAshtaVarga.Rows(), 14);
+  ASSERT_EQ(a.mshAshtaVarga.Cols(), 12);
+  for (int row = 1; row <= 12; ++row) {
+    EXPECT_EQ(a.mshAshtaVarga.Text(row, 0), kEnglishRasis[static_cast<size_t>(row - 1)]);
+    for (int col = 1; col <= 11; ++col) EXPECT_EQ(Cell(a, row, col), kExpected[row - 1][col - 1]) << row << "," << col;
+  }
+  EXPECT_EQ(a.mshAshtaVarga.Text(13, 0), "Total");
+}
+
+// All eight in Libra: the points of a rasi are the number of lists that hold
+// its house from Libra (counted apart: Leo is house 11 in every Sun list but
+// Venus's).
+TEST(Ashtakavarga, AllContributorsInOneRasi) {
+  constexpr std::array<int, 12> kSunColumn = {4, 3, 5, 6, 7, 3, 3, 3, 3, 4, 2, 5};
+  constexpr std::array<int, 12> kRahuColumn = {5, 4, 2, 3, 2, 5, 3, 3, 6, 4, 4, 2};
+  clsStar star;
+  Ashtakavarga a;
+  FillAshtakavarga(ChartWithRasis({7, 7, 7, 7, 7, 7, 7, 7}, 7), star, a);
+  for (int row = 1; row <= 12; ++row) {
+    EXPECT_EQ(Cell(a, row, 1), kSunColumn[static_cast<size_t>(row - 1)]) << row;
+    EXPECT_EQ(Cell(a, row, 9), kRahuColumn[static_cast<size_t>(row - 1)]) << row;
+  }
+}
+
+// The column totals follow from the table alone: its count of entries.
+TEST(Ashtakavarga, TableColumnTotals) {
+  constexpr std::array<int, 9> kTotals = {48, 49, 39, 54, 56, 52, 39, 49, 43};
+  constexpr std::array<const char*, 9> kColumns = {"Sun",   "Moon",  "Mars",   "Mercury", "Jupiter",
+                                                   "Venus", "Saturn", "Lagna", "Rahu"};
+  for (size_t col = 0; col < kAshtakavargaTable.size(); ++col) {
+    int entries = 0;
+    for (const AshtakavargaHouses& h : kAshtakavargaTable[col].from) {
+      entries += h.count;
+      for (int i = 0; i < h.count; ++i) {
+        EXPECT_GE(h.house[static_cast<size_t>(i)], 1);
+        EXPECT_LE(h.house[static_cast<size_t>(i)], 12);
+        if (i > 0) {
+          EXPECT_LT(h.house[static_cast<size_t>(i - 1)], h.house[static_cast<size_t>(i)]);
+        }
+      }
+    }
+    EXPECT_STREQ(kAshtakavargaTable[col].column, kColumns[col]);
+    EXPECT_EQ(entries, kTotals[col]) << kColumns[col];
+  }
+}
+
+// Over many charts: the Total row never changes, every rasi's points lie in 0
+// to 8 for a column, the two sums add up row by row, turning every contributor
+// by k rasis turns the grid by k rows, and Rahu's own rasi changes nothing.
+TEST(Ashtakavarga, InvariantsOverRandomCharts) {
+  constexpr std::array<int, 11> kTotalRow = {48, 49, 39, 54, 56, 52, 39, 49, 43, 337, 429};
+  std::mt19937 random(20261121);
+  std::uniform_int_distribution<int> rasiOf(1, 12);
+  clsStar star;
+  for (int n = 0; n < 500; ++n) {
+    std::array<int, 8> r{};
+    for (int& x : r) x = rasiOf(random);
+    const int k = rasiOf(random);
+    std::array<int, 8> turned{};
+    for (size_t i = 0; i < 8; ++i) turned[i] = (r[i] + k - 1) % 12 + 1;
+
+    Ashtakavarga a, b, c;
+    FillAshtakavarga(ChartWithRasis(r, rasiOf(random)), star, a);
+    FillAshtakavarga(ChartWithRasis(turned), star, b);
+    FillAshtakavarga(ChartWithRasis(r, rasiOf(random)), star, c);
+    for (int col = 1; col <= 11; ++col) {
+      EXPECT_EQ(Cell(a, 13, col), kTotalRow[static_cast<size_t>(col - 1)]) << col;
+    }
+    for (int row = 1; row <= 12; ++row) {
+      int planets = 0;
+      for (int col = 1; col <= 9; ++col) {
+        const int points = Cell(a, row, col);
+        EXPECT_GE(points, 0);
+        EXPECT_LE(points, 8);
+        if (col <= 7) planets += points;
+        const int turnedRow = (row + k - 1) % 12 + 1;
+        EXPECT_EQ(Cell(b, turnedRow, col), points) << "turn " << k;
+        EXPECT_EQ(Cell(c, row, col), points) << "Rahu's rasi";
+      }
+      EXPECT_EQ(Cell(a, row, 10), planets);
+      EXPECT_EQ(Cell(a, row, 11), planets + Cell(a, row, 8) + Cell(a, row, 9));
+    }
+  }
+}
+
+TEST(Ashtakavarga, CaptionsByLanguage) {
+  struct Case {
+    const char* language;
+    std::array<const char*, 12> captions;
+  };
+  const Case cases[] = {
+      {"Sanskrit",
+       {"Rasi         ", " Surya  ", "Chandra", "Kuja ", "Budha  ", "Guru   ", "Sukra", "Sani  ", "Lagna *",
+        "Rahu *", "Total ", "Total With *"}},
+      {"English",
+       {"Zodiac       ", " Sun    ", "Moon   ", "Mars ", "Mercury", "Jupiter", "Venus", "Saturn", "Asc   *",
+        "Rahu *", "Total ", "Total With * "}},
+      {"Tamil",
+       {"Zodiac       ", " Sun    ", "Moon   ", "Mars ", "Mercury", "Jupiter", "Venus", "Saturn", "Asc   *",
+        "Rahu *", "Total ", "Total With * "}},
+  };
+  for (const Case& c : cases) {
+    ChartData chart = ChartWithRasis({1, 2, 3, 4, 5, 6, 7, 8});
+    chart.language = c.language;
+    chart.RasiNames[0] = "Mesha";
+    clsStar star;
+    Ashtakavarga a;
+    FillAshtakavarga(chart, star, a);
+    ASSERT_EQ(a.mshAshtaVarga.Cols(), 12);
+    for (int col = 0; col < 12; ++col) {
+      EXPECT_EQ(a.mshAshtaVarga.Text(0, col), c.captions[static_cast<size_t>(col)]) << c.language << " " << col;
+    }
+    EXPECT_EQ(a.mshAshtaVarga.Text(1, 0), "Mesha");
+  }
+}
+
+// The sample chart's Moon, 275.456182876786, is Uttarashada pada 3, where
+// findstar assigns no HouseNo: the step keeps what the shared object held.
+TEST(Ashtakavarga, MoonStarKeepsTheCarriedHouseNo) {
+  ChartData chart = ChartWithRasis({3, 10, 2, 4, 3, 9, 10, 8});
+  chart.longitude[static_cast<size_t>(Body::Moon)] = 275.456182876786;
+  clsStar star;
+  star.PlanetPosition = 10.0;  // Ashwini pada 3, navamsa Gemini
+  star.findstar();
+  ASSERT_EQ(star.HouseNo, 3);
+  Ashtakavarga a;
+  FillAshtakavarga(chart, star, a);
+  EXPECT_EQ(a.MoonStarName, "Uttarashada");
+  EXPECT_EQ(a.MoonStarPada, 3);
+  EXPECT_EQ(a.MoonHouseNo, 3);
+
+  clsStar fresh;
+  FillAshtakavarga(chart, fresh, a);
+  EXPECT_EQ(a.MoonHouseNo, 0);
+
+  // Rohini pada 2 (43.3 to 46.7) is assigned: Taurus.
+  chart.longitude[static_cast<size_t>(Body::Moon)] = 45.0;
+  FillAshtakavarga(chart, star, a);
+  EXPECT_EQ(a.MoonStarName, "Rohini");
+  EXPECT_EQ(a.MoonStarPada, 2);
+  EXPECT_EQ(a.MoonHouseNo, 2);
+}
+
+TEST(Ashtakavarga, ContributorWithoutARasiFails) {
+  ChartData chart = ChartWithRasis({1, 2, 3, 4, 5, 6, 7, 8});
+  chart.rasi[static_cast<size_t>(Body::Saturn)] = 0;
+  clsStar star;
+  Ashtakavarga a;
+  EXPECT_THROW(FillAshtakavarga(chart, star, a), CalculationError);
+}
+
+// A second fill replaces the first: nothing of a Sanskrit grid stays behind.
+TEST(Ashtakavarga, RefillReplacesTheGrid) {
+  ChartData chart = ChartWithRasis({1, 1, 1, 1, 1, 1, 1, 1});
+  chart.language = "Sanskrit";
+  clsStar star;
+  Ashtakavarga a;
+  FillAshtakavarga(chart, star, a);
+  const std::string firstAries = a.mshAshtaVarga.Text(1, 1);
+  chart = ChartWithRasis({12, 12, 12, 12, 12, 12, 12, 12});
+  FillAshtakavarga(chart, star, a);
+  EXPECT_EQ(a.mshAshtaVarga.Text(0, 0), "Zodiac       ");
+  EXPECT_EQ(a.mshAshtaVarga.Text(12, 1), firstAries);  // the same houses from Pisces
+}
+
+}  // namespace
+}  // namespace kelvaro
