@@ -40,7 +40,7 @@ struct AshtakavargaRow {
 // One row per grid column 1 to 9. Over the twelve rasis a column always
 // totals its count of entries: 48, 49, 39, 54, 56, 52, 39, 49 and 43.
 inline constexpr std::array<AshtakavargaRow, 9> kAshtakavargaTable = {{
-    //            from Sun                       from Moon                        from Mars                        from Mercury                     from Venus                       from Jupiter                     from Saturn                      from Lagna
+    // Houses from Sun, Moon, Mars, Mercury, Venus, Jupiter, Saturn, Lagna.
     {"Sun",     {Houses({1, 2, 4, 7, 8, 9, 10, 11}), Houses({3, 6, 10, 11}), Houses({1, 2, 4, 7, 8, 9, 10, 11}), Houses({3, 5, 6, 9, 10, 11, 12}), Houses({6, 7, 12}), Houses({5, 6, 9, 11}), Houses({1, 2, 4, 7, 8, 9, 10, 11}), Houses({3, 4, 6, 10, 11, 12})}},
     {"Moon",    {Houses({3, 6, 7, 8, 10, 11}), Houses({1, 3, 6, 7, 10, 11}), Houses({2, 3, 5, 6, 9, 10, 11}), Houses({1, 3, 4, 5, 7, 8, 10, 11}), Houses({3, 4, 5, 7, 9, 10, 11}), Houses({1, 4, 7, 8, 10, 11, 12}), Houses({3, 5, 6, 11}), Houses({3, 6, 10, 11})}},
     {"Mars",    {Houses({3, 5, 6, 10, 11}), Houses({3, 6, 11}), Houses({1, 2, 4, 7, 8, 10, 11}), Houses({3, 5, 6, 11}), Houses({6, 8, 11, 12}), Houses({6, 10, 11, 12}), Houses({1, 4, 7, 8, 9, 10, 11}), Houses({1, 3, 6, 10, 11})}},
