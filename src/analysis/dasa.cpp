@@ -14,8 +14,9 @@ namespace {
 constexpr double kMinutesPerStar = 800;
 constexpr int kFirstStarAfterAbhijit = 22;
 constexpr double kSchemeYears = 120;
-// Antra days: the product of three dasa years over 40 is the length in days
-// of a 360-day year (120 * 120 / 360); the user's year then scales it.
+// Antra days: the product of the three dasa years over 40 is the antra's
+// length in days counted with 360-day years (120 * 120 / 360 = 40); the
+// user's year over 365.25 then scales it.
 constexpr double kAntraDivisor = 40;
 constexpr double kAntraYearDays = 365.25;
 
