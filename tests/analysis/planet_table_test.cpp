@@ -1,0 +1,359 @@
+#include "analysis/planet_table.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "analysis/avasthas.h"
+#include "analysis/karakas.h"
+#include "common/calculation_error.h"
+#include "common/ole_date.h"
+
+namespace kelvaro {
+namespace {
+
+using Row = std::vector<std::string>;
+
+ChartData EnglishNames() {
+  ChartData c;
+  c.language = "English";
+  c.ShortNames = {"Asc", "Sun", "Moo", "Mar", "Mer", "Jup", "Ven", "Sat", "Rah", "Ket", "Gul", "Maa"};
+  c.LongNames = {"Asc", "Sun", "Moon", "Mars", "Mercury", "Venus", "Jupiter", "Saturn", "Rahu", "Ketu"};
+  c.RasiNames = {"Aries", "Taurus",  "Gemini",     "Cancer",   "Leo",      "Virgo",
+                 "Libra", "Scorpio", "Sagitarius", "Capricon", "Aquarius", "Pisces"};
+  return c;
+}
+
+// Sanskrit names, so that a local name never equals its English lord and a
+// LongNames index mixed up between Venus and Jupiter shows.
+ChartData SanskritNames() {
+  ChartData c;
+  c.language = "Sanskrit";
+  c.ShortNames = {"Lag", "Rav", "Cha", "Kuj", "Bud", "Gur", "Suk", "San", "Rah", "Ket", "Gul", "Maa"};
+  c.LongNames = {"Lagna", "Surya", "Chandra", "Kuja", "Budha", "Sukra", "Guru", "Sani", "Rahu", "Ketu"};
+  c.RasiNames = {"Mesha", "Rishaba",   "Mithuna", "Kataka", "Simha",  "Kanya",
+                 "Tula",  "Vrischika", "Dhanus",  "Makara", "Kumbha", "Meena"};
+  return c;
+}
+
+// The sample chart: 14/07/1965 14:15 at 17N20 78E30, zone 5.5 E, Lahiri,
+// with the longitudes of its position pass.
+ChartData SampleChart() {
+  ChartData c = EnglishNames();
+  c.longitude = {205.24722234655192, 88.3175878697087,  275.4561828767856, 164.6582273760534,
+                 114.62903806815622, 55.498183964240155, 112.99345829639297, 323.6090305022042,
+                 48.314118595505974, 228.31411859550596, 179.0066583336399, 172.58448531111418};
+  c.birthMoment = OleDate::FromParts(1965, 7, 14, 14, 15);
+  c.latNS = "N";
+  c.latDeg = 17;
+  c.latMin = 20;
+  c.lonEW = "E";
+  c.lonDeg = 78;
+  c.lonMin = 30;
+  c.timeDiff = 5.5;
+  c.timeDiffEW = "E";
+  c.ayanamsaInForce = "Lahiri";
+  return c;
+}
+
+constexpr double kSampleIshtaGhati = 20.375;
+
+double Above(double x) { return std::nextafter(x, 100.0); }
+
+TEST(SubLords, BandsEndAtTheirLimitInclusive) {
+  const ChartData chart = SanskritNames();
+  using Table = const std::string& (*)(const ChartData&, double);
+  struct Case {
+    Table table;
+    int number;
+    double degrees;
+    const char* lord;
+  };
+  const Case cases[] = {
+      {SubLordTable1, 1, 0, "Ketu"},  // the first band starts at 0 inclusive
+      {SubLordTable1, 1, 0.777777777777778, "Ketu"},
+      {SubLordTable1, 1, Above(0.777777777777778), "Sukra"},
+      {SubLordTable1, 1, 3.0, "Sukra"},  // on the limit: the band that ends there
+      {SubLordTable1, 1, Above(3.0), "Surya"},
+      {SubLordTable1, 1, 24.0, "Sani"},
+      {SubLordTable1, 1, Above(24.0), "Budha"},
+      {SubLordTable1, 1, 26.6666666666667, "Ketu"},
+      {SubLordTable1, 1, 30.0, "Rahu"},
+      {SubLordTable1, 1, Above(30.0), ""},
+      {SubLordTable1, 1, -0.001, ""},
+      {SubLordTable2, 2, 0, "Rahu"},
+      {SubLordTable2, 2, 1.22222222222222, "Rahu"},
+      {SubLordTable2, 2, Above(1.22222222222222), "Guru"},
+      {SubLordTable2, 2, 10.0, "Sukra"},
+      {SubLordTable2, 2, Above(10.0), "Chandra"},
+      {SubLordTable2, 2, 23.0, "Surya"},
+      {SubLordTable2, 2, 30.0, "Sani"},
+      {SubLordTable3, 3, 0, "Budha"},
+      {SubLordTable3, 3, 17.4444444444444, "Surya"},
+      {SubLordTable3, 3, Above(17.4444444444444), "Surya"},  // the second Sun band in a row
+      {SubLordTable3, 3, 18.1111111111111, "Surya"},
+      {SubLordTable3, 3, Above(18.1111111111111), "Chandra"},
+      {SubLordTable3, 3, 20.0, "Kuja"},
+      {SubLordTable3, 3, 29.5, "Chandra"},
+      {SubLordTable4, 4, 0.555555555555556, "Chandra"},
+      {SubLordTable4, 4, Above(0.555555555555556), "Kuja"},
+      {SubLordTable4, 4, 11.0, "Surya"},
+      {SubLordTable4, 4, Above(11.0), "Chandra"},
+      {SubLordTable4, 4, 16.6666666666667, "Guru"},
+      {SubLordTable4, 4, Above(16.6666666666667), "Budha"},
+      {SubLordTable4, 4, 30.0, "Sani"},
+  };
+  for (const Case& c : cases) {
+    EXPECT_EQ(c.table(chart, c.degrees), c.lord) << "table " << c.number << " at " << c.degrees;
+  }
+}
+
+TEST(SubLords, TableChosenByRasiAndReadAtTheDegreesInRasi) {
+  const ChartData chart = SanskritNames();
+  struct Case {
+    int rasi;
+    double longitude;
+    const char* lord;
+  };
+  // 3 degrees into each rasi: Venus, Jupiter, Venus, Rahu by tables 1 to 4.
+  const Case cases[] = {
+      {1, 3, "Sukra"},   {2, 33, "Guru"},   {3, 63, "Sukra"},  {4, 93, "Rahu"},
+      {5, 123, "Sukra"}, {6, 153, "Guru"},  {7, 183, "Sukra"}, {8, 213, "Rahu"},
+      {9, 243, "Sukra"}, {10, 273, "Guru"}, {11, 303, "Sukra"}, {12, 333, "Rahu"},
+      {0, 3, ""},        {13, 3, ""},
+  };
+  for (const Case& c : cases) EXPECT_EQ(SubLordOf(chart, c.rasi, c.longitude), c.lord) << c.rasi;
+}
+
+TEST(RetroMarkTest, PlanetsAndNodesWithoutZeroAllowance) {
+  struct Case {
+    double today, nextDay;
+    int kind;
+    const char* mark;
+  };
+  const Case cases[] = {
+      {10, 11, 1, ""},          // direct
+      {10, 9.5, 1, " (R)"},     // backward
+      {10, 10, 1, " (R)"},      // standing still counts as not greater
+      {359, 0.2, 1, " (R)"},    // Pisces into Aries reads as backward
+      {0.2, 359.9, 1, ""},      // and backward out of Aries reads as direct
+      {48.3, 48.2, 2, ""},      // a node running backward, as it normally does
+      {48.3, 48.4, 2, " (R)"},  // a node running direct
+      {48.3, 48.3, 2, ""},
+      {0.1, 359.9, 2, " (R)"},
+      {10, 9, 0, ""},
+      {10, 11, 3, ""},
+  };
+  for (const Case& c : cases) {
+    EXPECT_EQ(RetroMark(c.today, c.nextDay, c.kind), c.mark) << c.today << " " << c.nextDay << " kind " << c.kind;
+  }
+}
+
+// A planet table with only the degrees texts of Sun to Saturn (rows 2 to 8).
+Grid DegreesGrid(const std::vector<std::string>& sunToSaturn) {
+  Grid g("mshNirayana");
+  g.SetHeader(kPlanetTableHeader);
+  g.Resize(11, 10);
+  for (size_t i = 0; i < sunToSaturn.size(); ++i) g.SetText(static_cast<int>(i) + 2, 1, sunToSaturn[i]);
+  return g;
+}
+
+std::vector<std::string> Column(const Grid& g, int col, int fromRow, int toRow) {
+  std::vector<std::string> texts;
+  for (int r = fromRow; r <= toRow; ++r) texts.push_back(g.Text(r, col));
+  return texts;
+}
+
+TEST(Karakas, RankedByTextNotByDegrees) {
+  // Sun, Moon, Mars, Mercury, Jupiter, Venus, Saturn. Mars at 12.5.7 and
+  // Saturn at 9.10.3: as text "9" is above "1", so Saturn ranks first.
+  Grid g = DegreesGrid({"28.19.3", "5.27.22", "12.5.7", "1.0.0", "25.29.53", "22.59.36", "9.10.3"});
+  Grid sort("MSFlexGridSort");
+  RankKarakas(g, sort);
+  EXPECT_EQ(Column(sort, 0, 1, 7),
+            (std::vector<std::string>{"9.10.3", "5.27.22", "28.19.3", "25.29.53", "22.59.36", "12.5.7", "1.0.0"}));
+  EXPECT_EQ(Column(g, 8, 2, 8),
+            (std::vector<std::string>{"Bhratri", "Amatya", "Gnati", "Dara", "Matri", "Puttra", "Atma"}));
+  // Rows outside Sun to Saturn are not touched.
+  EXPECT_EQ(g.Text(1, 8), "");
+  EXPECT_EQ(g.Text(9, 8), "");
+  EXPECT_EQ(g.Text(10, 8), "");
+}
+
+TEST(Karakas, EqualTextsBothTakeTheLaterRank) {
+  // Sun and Venus share 5.0.0 and match ranks 3 and 4: both end as Matri,
+  // and Bhratri goes to no one.
+  Grid g = DegreesGrid({"5.0.0", "9.0.0", "8.0.0", "4.0.0", "3.0.0", "5.0.0", "2.0.0"});
+  Grid sort("MSFlexGridSort");
+  RankKarakas(g, sort);
+  EXPECT_EQ(Column(g, 8, 2, 8),
+            (std::vector<std::string>{"Matri", "Atma", "Amatya", "Puttra", "Gnati", "Matri", "Dara"}));
+}
+
+TEST(Avasthas, SortedStarNumberSqueezesOutAbhijit) {
+  clsStar star;
+  struct Case {
+    double longitude;
+    int number;
+  };
+  const Case cases[] = {
+      {0.5, 1},   {100, 8},   {266.0, 20}, {275, 21},  // Uttarashada, star 21
+      {278, 21},  // Uttarashada - Abijit, star 22
+      {281, 22},  // Shravana, star 23
+      {290, 22},  {359.9, 27},
+  };
+  for (const Case& c : cases) EXPECT_EQ(SortedStarNumber(star, c.longitude), c.number) << c.longitude;
+}
+
+TEST(Avasthas, OrdinalNavamsaAndNames) {
+  EXPECT_EQ(PlanetOrdinal("Sun"), 1);
+  EXPECT_EQ(PlanetOrdinal("Jupiter"), 5);  // Jupiter before Venus here
+  EXPECT_EQ(PlanetOrdinal("Venus"), 6);
+  EXPECT_EQ(PlanetOrdinal("Kethu"), 9);
+  EXPECT_EQ(PlanetOrdinal("Ketu"), 0);
+  EXPECT_EQ(PlanetOrdinal("Asc"), 0);
+
+  struct Case {
+    double degrees;
+    int navamsa;
+  };
+  const Case cases[] = {
+      {0, 1},  {3.33333333333333, 1}, {Above(3.33333333333333), 2}, {10, 3}, {Above(10), 4},
+      {20, 6}, {26.6666666666667, 8}, {29.99, 9},                   {30, 9}, {30.5, 0},
+  };
+  for (const Case& c : cases) EXPECT_EQ(NavamsaInRasi(c.degrees), c.navamsa) << c.degrees;
+
+  EXPECT_EQ(AvasthaName(1), "Sayana");
+  EXPECT_EQ(AvasthaName(6), "Aagamana");
+  EXPECT_EQ(AvasthaName(12), "Nidra");
+  EXPECT_EQ(AvasthaName(0), "");
+  EXPECT_EQ(AvasthaName(13), "");
+}
+
+TEST(Avasthas, WorkedByHand) {
+  clsStar star;
+  // Jupiter at 100: Pushya, star 8; ordinal 5; 10 degrees in Cancer is on the
+  // limit of navamsa 3. Moon at 290: Shravana, star 23, sorted 22.
+  // 8 * 5 * 3 + 22 + ishta + Lagna rasi.
+  struct Case {
+    const char* name;
+    double ishta;
+    std::int16_t lagnaRasi;
+    const char* avastha;
+  };
+  const Case cases[] = {
+      {"Jupiter", 20.5, 7, "Sayana"},     // 120 + 22 + 20 (half to even) + 7 = 169, 169 mod 12 = 1
+      {"Jupiter", 21.5, 7, "Netrapani"},  // 120 + 22 + 22 + 7 = 171, remainder 3
+      {"Jupiter", 20.0, 6, "Nidra"},      // 168, remainder 0 counts as 12
+      {"Gulika", 20.0, 7, "Sayana"},      // ordinal 0: 0 + 22 + 20 + 7 = 49, remainder 1
+  };
+  for (const Case& c : cases) {
+    EXPECT_EQ(SayanadiAvastha(star, 100, c.name, 290, c.lagnaRasi, c.ishta), c.avastha) << c.name << " " << c.ishta;
+  }
+}
+
+TEST(Avasthas, SixteenBitOverflowIsAnError) {
+  clsStar star;
+  // Sun at 0.5 and Moon at 0.5: 1 * 1 * 1 + 1 + ishta + 1.
+  EXPECT_EQ(SayanadiAvastha(star, 0.5, "Sun", 0.5, 1, 32764), "Sabha");  // 32767, remainder 7
+  EXPECT_THROW(SayanadiAvastha(star, 0.5, "Sun", 0.5, 1, 32765), CalculationError);  // the sum reaches 32768
+  EXPECT_THROW(SayanadiAvastha(star, 0.5, "Sun", 0.5, 1, 40000), CalculationError);  // ishta ghati itself
+}
+
+TEST(PlanetTableFill, SampleChartWorkedIndependently) {
+  const ChartData chart = SampleChart();
+  ClsFindPlanetPosition positions;
+  clsStar star;
+  PlanetTable table;
+  FillPlanetTable(chart, kSampleIshtaGhati, positions, star, table);
+  const Grid& g = table.mshNirayana;
+  ASSERT_EQ(g.Rows(), 11);
+  ASSERT_EQ(g.Cols(), 10);
+  EXPECT_EQ(g.Text(0, 1), "   Longitude  ");
+  EXPECT_EQ(g.Text(0, 9), "Avasthas** ");
+  // Worked with a separate script from the longitudes: degrees in rasi as
+  // d.m.s, rasi, its lord, star and pada by 13 1/3 degrees, the star lord by
+  // the cycle of nine, the sub lord from the bands, the karaka from the text
+  // order, and the avastha star * ordinal * navamsa + 21 (Moon) + 20 + 7
+  // (Libra) modulo 12. Saturn is retrograde: 323.609 the day after is 323.582.
+  const std::vector<Row> expected = {
+      {"Asc", "25.14.50", "Libra", "Venus", "Vishaka", "2", "Jupiter", "Mercury", "--", "----"},
+      {"Sun", "28.19.3", "Gemini", "Mercury", "Punarvasu", "3", "Jupiter", "Venus", "Amatya", "Netrapani"},
+      {"Moo", "5.27.22", "Capricon", "Saturn", "Uttarashada", "3", "Sun", "Mercury", "Atma", "Nidra"},
+      {"Mar", "14.39.30", "Virgo", "Mercury", "Hasta", "2", "Moon", "Jupiter", "Dara", "Netrapani"},
+      {"Mer", "24.37.45", "Cancer", "Moon", "Ashlesha", "3", "Mercury", "Rahu", "Matri", "Nidra"},
+      {"Jup", "25.29.53", "Taurus", "Venus", "Mrigshira", "1", "Mars", "Rahu", "Bhratri", "Agama"},
+      {"Ven", "22.59.36", "Cancer", "Moon", "Ashlesha", "2", "Mercury", "Moon", "Gnati", "Aagamana"},
+      {"Sat", "23.36.33 (R)", "Aquarius", "Saturn", "P.Bhadrapad", "2", "Jupiter", "Saturn", "Puttra", "Agama"},
+      {"Rah", "18.18.51", "Taurus", "Venus", "Rohini", "3", "Moon", "Mercury", "--", "Nidra"},
+      {"Ket", "18.18.51", "Scorpio", "Mars", "Jyestha", "1", "Mercury", "Mercury", "--", "Nidra"},
+  };
+  for (int r = 1; r <= 10; ++r) EXPECT_EQ(g.RowTexts(r), expected[static_cast<size_t>(r - 1)]) << "row " << r;
+  for (int r = 1; r <= 10; ++r) {
+    const bool dashes = r == 1 || r == 9 || r == 10;
+    EXPECT_EQ(g.Bold(r, 8), dashes) << "row " << r;
+    EXPECT_FALSE(g.Bold(r, 9)) << "row " << r;
+  }
+  // The hidden grid keeps the seven texts in rank order, without the mark.
+  EXPECT_EQ(Column(table.MSFlexGridSort, 0, 1, 7),
+            (std::vector<std::string>{"5.27.22", "28.19.3", "25.29.53", "24.37.45", "23.36.33", "22.59.36",
+                                      "14.39.30"}));
+  // The facade is left at the day after the birth.
+  EXPECT_NEAR(positions.FnFindSaturnPosition(), 323.58167418685605, 1e-9);
+
+  // The driver builds the table twice; the second build is the same.
+  PlanetTable again = table;
+  FillPlanetTable(chart, kSampleIshtaGhati, positions, star, again);
+  for (int r = 0; r <= 10; ++r) EXPECT_EQ(again.mshNirayana.RowTexts(r), g.RowTexts(r));
+}
+
+TEST(PlanetTableFill, BodiesOnBandLimitsAndAKarakaTie) {
+  ChartData chart = SanskritNames();
+  chart.birthMoment = OleDate::FromParts(1965, 7, 14, 14, 15);
+  // Lagna on the 3.0 limit of Aries, Moon 3.0 into Scorpio, Jupiter on 7.0 of
+  // Capricorn and Ketu on 10.0 of it; Sun 10.0 into Aries and Venus 10.0 into
+  // Leo share the text 10.0.0.
+  chart.longitude = {3.0, 10.0, 213.0, 45.5, 62.25, 277.0, 130.0, 300.75, 100.0, 280.0, 0, 0};
+  ClsFindPlanetPosition positions;
+  clsStar star;
+  PlanetTable table;
+  FillPlanetTable(chart, 0, positions, star, table);
+  const Grid& g = table.mshNirayana;
+  EXPECT_EQ(Column(g, 0, 1, 10),
+            (std::vector<std::string>{"Lag", "Rav", "Cha", "Kuj", "Bud", "Gur", "Suk", "San", "Rah", "Ket"}));
+  EXPECT_EQ(Column(g, 2, 1, 3), (std::vector<std::string>{"Mesha", "Mesha", "Vrischika"}));
+  // Rasi lords stay English.
+  EXPECT_EQ(Column(g, 3, 1, 3), (std::vector<std::string>{"Mars", "Mars", "Mars"}));
+  // Table 1 at 3.0 Venus, at 10.0 Saturn; table 4 at 3.0 Rahu; table 2 at
+  // 15.5 Jupiter; table 3 at 2.25 Ketu; table 2 at 7.0 Mercury; table 1 at
+  // 10.0 Saturn; table 3 at 0.75 Mercury; table 4 at 10.0 Venus; table 2 at
+  // 10.0 Venus.
+  EXPECT_EQ(Column(g, 7, 1, 10), (std::vector<std::string>{"Sukra", "Sani", "Rahu", "Guru", "Ketu", "Budha", "Sani",
+                                                            "Budha", "Sukra", "Sukra"}));
+  // Jupiter at 277 and Ketu at 280 stand in the Abijit part, ruled by the Sun.
+  EXPECT_EQ(g.Text(6, 4), "Uttarashada - Abijit");
+  EXPECT_EQ(g.Text(6, 6), "Surya");
+  EXPECT_EQ(g.Text(10, 6), "Surya");
+  // Text order 7.0.0, 3.0.0, 2.15.0, 15.30.0, 10.0.0, 10.0.0, 0.45.0: Sun
+  // and Venus match ranks 5 and 6 and both keep Gnati; Puttra stays unused.
+  EXPECT_EQ(Column(g, 8, 1, 10), (std::vector<std::string>{"--", "Gnati", "Amatya", "Matri", "Bhratri", "Atma",
+                                                           "Gnati", "Dara", "--", "--"}));
+}
+
+TEST(PlanetTableFill, AFailedStepLeavesTheLastTable) {
+  const ChartData chart = SampleChart();
+  ClsFindPlanetPosition positions;
+  clsStar star;
+  PlanetTable table;
+  FillPlanetTable(chart, kSampleIshtaGhati, positions, star, table);
+  const Row sun = table.mshNirayana.RowTexts(2);
+  // An ishta ghati past 16 bits fails in the avastha of the Sun.
+  EXPECT_THROW(FillPlanetTable(chart, 40000, positions, star, table), CalculationError);
+  EXPECT_EQ(table.mshNirayana.RowTexts(2), sun);
+  EXPECT_EQ(table.mshNirayana.Rows(), 11);
+}
+
+}  // namespace
+}  // namespace kelvaro
