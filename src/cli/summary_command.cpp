@@ -16,6 +16,7 @@
 #include "store/chart_store.h"
 #include "store/country_master.h"
 #include "store/database.h"
+#include "store/charts_master_table.h"
 #include "store/kaliyuga_year_table.h"
 #include "store/preferences.h"
 #include "store/store_error.h"
@@ -90,11 +91,15 @@ void RunSummary(const SummaryOptions& o, bool fromChart, Session& session) {
   try {
     store::Database db(DatabasePathOrDefault(o.database));
     store::DatabaseKaliyugaYearTable years(db);
-    CalculationContext ctx(&years);
+    store::DatabaseChartsMasterTable charts(db);
+    // The tool reads the database and writes nothing to it: the tempBhukthi
+    // rows of the dasa step are not kept.
+    CalculationContext ctx(&years, &charts);
     HoroscopeState& s = ctx.state;
     ApplyPreferences(store::ReadPreferences(db), o, s);
     if (fromChart) {
       if (!ApplySavedChart(db, o.chart, s, session)) return;
+      ctx.UserId = std::to_string(o.chart);
     } else {
       s.ChartName = o.name;
       s.BirthGender = o.gender;

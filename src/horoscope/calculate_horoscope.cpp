@@ -13,12 +13,12 @@ void Advance(CalculationContext& ctx, int& done) {
   if (ctx.OnProgress) ctx.OnProgress(done, kProgressSteps);
 }
 
-// The planet table's own pass: it begins with the names and a position pass
-// of division 30, so that from here on the rasi fields hold Rasi positions.
+// The planet table begins with the names and a position pass of division 30,
+// so that from here on the rasi fields hold Rasi positions.
 void FillPlanetPositions(CalculationContext& ctx) {
   LoadNamesForLanguage(ctx.state);
   ComputeChartPositions(ctx, kRasiDivision);
-  // The table itself comes with the chart analysis.
+  FillPlanetTable(ChartDataOf(ctx.state), ctx.summary.IshtaGhati, ctx.positions, ctx.star, ctx.planets);
 }
 
 void RunSequence(CalculationContext& ctx) {
@@ -29,23 +29,28 @@ void RunSequence(CalculationContext& ctx) {
   Advance(ctx, done);
   LoadNamesForLanguage(ctx.state);  // 4.
   Advance(ctx, done);
-  Advance(ctx, done);  // 5. Rasi chart: comes with the chart cells
+  FillRasiChart(ChartDataOf(ctx.state), ctx.cells);  // 5.
+  Advance(ctx, done);
   FillBirthSummary(ctx);  // 6.
   Advance(ctx, done);
-  Advance(ctx, done);  // 7. Ashtakavarga: comes with the chart analysis
+  FillAshtakavarga(ChartDataOf(ctx.state), ctx.star, ctx.ashtakavarga);  // 7. on Rasi positions
+  Advance(ctx, done);
   ComputeChartPositions(ctx, kNavamsaDivision);  // 8.
   Advance(ctx, done);
   LoadNamesForLanguage(ctx.state);  // 9.
   Advance(ctx, done);
-  Advance(ctx, done);  // 10. Navamsa chart: comes with the chart cells
+  FillNavamsaChart(ChartDataOf(ctx.state), ctx.cells);  // 10. on Navamsa positions
+  Advance(ctx, done);
   Advance(ctx, done);  // 11. Bhava: comes with the chart analysis
   FillPlanetPositions(ctx);  // 12.
   Advance(ctx, done);
   FillPlanetPositions(ctx);  // 13. built twice: the second build leaves the same result
   LoadNamesForLanguage(ctx.state);
   Advance(ctx, done);
-  Advance(ctx, done);  // 14. divisional charts: come with the chart analysis
-  Advance(ctx, done);  // 15. Vimshottari dasa: comes with the chart analysis
+  FillVargas(ChartDataOf(ctx.state), ctx.chartsMaster, ctx.vargas);  // 14.
+  Advance(ctx, done);
+  FillDasa(ChartDataOf(ctx.state), ctx.star, ctx.UserId, ctx.bhukthi, ctx.dasa);  // 15.
+  Advance(ctx, done);
   Advance(ctx, done);  // 16. the current view: the caller shows it
   // 17. close the progress: nothing more to report.
 }
@@ -56,11 +61,21 @@ void CalculateHoroscope(CalculationContext& ctx) {
   // On failure the results go back to those of the last complete run.
   HoroscopeState state = ctx.state;
   BirthSummary summary = ctx.summary;
+  ChartCells cells = ctx.cells;
+  Ashtakavarga ashtakavarga = ctx.ashtakavarga;
+  PlanetTable planets = ctx.planets;
+  Vargas vargas = ctx.vargas;
+  DasaTables dasa = ctx.dasa;
   try {
     RunSequence(ctx);
   } catch (...) {
     ctx.state = std::move(state);
     ctx.summary = std::move(summary);
+    ctx.cells = std::move(cells);
+    ctx.ashtakavarga = std::move(ashtakavarga);
+    ctx.planets = std::move(planets);
+    ctx.vargas = std::move(vargas);
+    ctx.dasa = std::move(dasa);
     throw;
   }
 }

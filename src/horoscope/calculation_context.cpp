@@ -13,6 +13,20 @@ class NoYears : public KaliyugaYearTable {
 
 const NoYears kNoYears;
 
+class NoBands : public ChartsMasterTable {
+ public:
+  std::optional<int> House(std::string_view, double, int) const override { return std::nullopt; }
+};
+
+const NoBands kNoBands;
+
+class NoBhukthiRows : public BhukthiSink {
+ public:
+  void Replace(const std::string&, const std::vector<BhukthiRow>&) override {}
+};
+
+NoBhukthiRows kNoRows;  // holds nothing: the rows are dropped
+
 OleDate SystemToday() {
   const auto now = std::chrono::system_clock::now();
   const auto days = std::chrono::floor<std::chrono::days>(now);
@@ -23,8 +37,11 @@ OleDate SystemToday() {
 
 }  // namespace
 
-CalculationContext::CalculationContext(const KaliyugaYearTable* yearTable)
+CalculationContext::CalculationContext(const KaliyugaYearTable* yearTable, const ChartsMasterTable* charts,
+                                       BhukthiSink* bhukthiSink)
     : years(yearTable ? *yearTable : kNoYears),
+      chartsMaster(charts ? *charts : kNoBands),
+      bhukthi(bhukthiSink ? *bhukthiSink : kNoRows),
       lunar(calendarPositions, tithi, sunrise, sunset, years),
       solar(years),
       today(SystemToday) {}

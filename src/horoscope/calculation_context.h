@@ -8,6 +8,12 @@
 #include <memory>
 #include <string>
 
+#include "analysis/ashtakavarga.h"
+#include "analysis/bhukthi_sink.h"
+#include "analysis/charts_master_table.h"
+#include "analysis/dasa.h"
+#include "analysis/planet_table.h"
+#include "analysis/vargas.h"
 #include "astronomy/find_planet_position.h"
 #include "astronomy/find_sunrise.h"
 #include "astronomy/find_sunset.h"
@@ -21,20 +27,31 @@
 #include "panchanga/times.h"
 #include "panchanga/tithi.h"
 #include "panchanga/yoga.h"
+#include "presentation/chart_cells.h"
 
 namespace kelvaro {
 
 struct CalculationContext {
-  // `years` is where the calendars read KaliyugaYearDetails (the store's table
-  // in the program); without one, no year has a row. It must outlive the
-  // context.
-  explicit CalculationContext(const KaliyugaYearTable* years = nullptr);
+  // Where the calculation reads and writes master data (the store's tables in
+  // the program): the sixty years, the divisional-chart bands, and the
+  // tempBhukthi rows. Without them no year has a row, no band matches, and the
+  // rows go nowhere. They must outlive the context.
+  explicit CalculationContext(const KaliyugaYearTable* years = nullptr, const ChartsMasterTable* charts = nullptr,
+                              BhukthiSink* bhukthi = nullptr);
   CalculationContext(const CalculationContext&) = delete;
   CalculationContext& operator=(const CalculationContext&) = delete;
 
   HoroscopeState state = SampleChart();
+  std::string UserId = "0";  // the chart's number (Sno) when it is saved; keys its tempBhukthi rows
+  std::string CurrentView;   // the view the user last chose; "" is the details
+
+  // The models of the views.
   BirthSummary summary;
-  std::string CurrentView;  // the view the user last chose; "" is the details
+  ChartCells cells;  // the Rasi, Navamsa and Bhava charts
+  Ashtakavarga ashtakavarga;
+  PlanetTable planets;
+  Vargas vargas;
+  DasaTables dasa;
 
   ClsFindPlanetPosition positions;          // the driver's facade
   ClsFindPlanetPosition calendarPositions;  // the calendar module's facade
@@ -46,6 +63,8 @@ struct CalculationContext {
   clsTithi tithi;
   clsYoga yoga;
   const KaliyugaYearTable& years;
+  const ChartsMasterTable& chartsMaster;
+  BhukthiSink& bhukthi;
   LunarCalendar lunar;
   SolarCalendar solar;
 

@@ -8,6 +8,7 @@
 #include "common/calculation_error.h"
 #include "common/date_text.h"
 #include "horoscope/calculate_horoscope.h"
+#include "support/charts_master.h"
 #include "support/year_table.h"
 
 namespace kelvaro {
@@ -16,7 +17,8 @@ namespace {
 class SampleChartRun : public ::testing::Test {
  protected:
   testing::MapYearTable years_ = testing::SeedYearTable();
-  CalculationContext ctx_{&years_};
+  testing::SeedChartsMaster charts_;
+  CalculationContext ctx_{&years_, &charts_};
 };
 
 TEST_F(SampleChartRun, ProgressAdvancesFifteenTimes) {
