@@ -1,0 +1,284 @@
+// The houses: both systems on charts whose numbers can be followed by hand
+// (whole degrees, steps of 15), the midheaven near 0 degrees, the two wraps
+// that the reworked system keeps as they are, the two constants of the
+// planets in a house, and the sample chart worked apart from the code.
+#include "analysis/bhava.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+#include <string>
+#include <vector>
+
+#include "common/calculation_error.h"
+
+namespace kelvaro {
+namespace {
+
+constexpr std::array<const char*, 12> kShort = {"Asc", "Sun", "Moo", "Mar", "Mer", "Jup",
+                                                "Ven", "Sat", "Rah", "Ket", "Gul", "Maa"};
+constexpr std::array<const char*, 10> kLong = {"Asc",     "Sun",     "Moon",   "Mars", "Mercury",
+                                               "Venus",   "Jupiter", "Saturn", "Rahu", "Ketu"};
+constexpr std::array<const char*, 12> kRasi = {"Aries", "Taurus",     "Gemini",   "Cancer",
+                                               "Leo",   "Virgo",      "Libra",    "Scorpio",
+                                               "Sagitarius", "Capricon", "Aquarius", "Pisces"};
+
+// Lagna, midheaven and the nine planets Sun to Ketu.
+ChartData ChartWith(double lagna, double midHeaven, const std::array<double, 9>& planets,
+                    const std::string& system = "Equal") {
+  ChartData c;
+  c.bhavaSystem = system;
+  c.longitude[0] = lagna;
+  for (size_t i = 0; i < 9; ++i) c.longitude[i + 1] = planets[i];
+  c.midHeaven = midHeaven;
+  for (size_t i = 0; i < 12; ++i) {
+    c.ShortNames[i] = kShort[i];
+    c.RasiNames[i] = kRasi[i];
+  }
+  for (size_t i = 0; i < 10; ++i) c.LongNames[i] = kLong[i];
+  return c;
+}
+
+constexpr std::array<double, 9> kNowhere = {-1, -1, -1, -1, -1, -1, -1, -1, -1};
+
+using Twelve = std::array<double, 12>;
+
+void ExpectLimits(const BhavaLimits& h, const Twelve& start, const Twelve& mid, const Twelve& sandhi) {
+  for (size_t k = 0; k < 12; ++k) {
+    SCOPED_TRACE("house " + std::to_string(k + 1));
+    EXPECT_EQ(h.BhavaStart[k], start[k]);
+    EXPECT_EQ(h.BhavaMid[k], mid[k]);
+    EXPECT_EQ(h.BhavaSandhi[k], sandhi[k]);
+  }
+}
+
+// Lagna 88, midheaven 358: the arc from the midheaven to the Lagna is 90
+// degrees, so both steps are 15. Points 18 to 24 run 358, 373, ... 448
+// unreduced; points 12 to 18 run 268 to 358; the opposite points 88 to 253.
+// The mid points are the even points, the sandhis the odd ones, and each
+// house starts at the sandhi before it. Every figure is a whole number, so
+// the comparison is exact.
+TEST(Bhava, EqualHousesWithTheMidheavenNearZero) {
+  const BhavaLimits h = ComputeBhavaLimits(88, 358, "Equal");
+  EXPECT_EQ(h.BhavaPoints[24], 448);  // the Lagna, left unreduced
+  ExpectLimits(h, {73, 103, 133, 163, 193, 223, 253, 283, 313, 343, 13, 43},
+               {88, 118, 148, 178, 208, 238, 268, 298, 328, 358, 28, 58},
+               {103, 133, 163, 193, 223, 253, 283, 313, 343, 13, 43, 73});
+}
+
+// The same chart reworked: the old mid points become the starts; each new
+// mid point is halfway to the next start; house 10 wraps properly:
+// (358 + 28 + 360) / 2 = 373, reduced to 13; house 12 halves towards the
+// start of house 1: (58 + 88) / 2 = 73.
+TEST(Bhava, NotEqualHousesWithTheMidheavenNearZero) {
+  const BhavaLimits h = ComputeBhavaLimits(88, 358, "Not Equal");
+  ExpectLimits(h, {88, 118, 148, 178, 208, 238, 268, 298, 328, 358, 28, 58},
+               {103, 133, 163, 193, 223, 253, 283, 313, 343, 13, 43, 73},
+               {118, 148, 178, 208, 238, 268, 298, 328, 358, 28, 58, 88});
+}
+
+// Lagna 140, midheaven 50: the old mid points of houses 8 and 9 are 350 and
+// 20. Halfway across 0 degrees would be (350 + 380) / 2 = 365, that is 5;
+// the house 8 step takes 360 less 20 instead: (350 + 340) / 2 = 345.
+TEST(Bhava, HouseEightToNineWrap) {
+  const BhavaLimits equal = ComputeBhavaLimits(140, 50, "Equal");
+  EXPECT_EQ(equal.BhavaMid[7], 350);
+  EXPECT_EQ(equal.BhavaMid[8], 20);
+  const BhavaLimits h = ComputeBhavaLimits(140, 50, "Not Equal");
+  ExpectLimits(h, {140, 170, 200, 230, 260, 290, 320, 350, 20, 50, 80, 110},
+               {155, 185, 215, 245, 275, 305, 335, 345, 35, 65, 95, 125},
+               {170, 200, 230, 260, 290, 320, 350, 20, 50, 80, 110, 140});
+}
+
+// The two other ends of the rework. Lagna 10, midheaven 280: old mid points
+// 10, 40, ... 340; the new mid of house 1 is 25, and house 12 (340 above 25)
+// halves towards 25 + 360: (340 + 385) / 2 = 362.5, reduced to 2.5, not 355.
+// Lagna 350, midheaven 260: old mid points 350 and 20; house 1 takes no
+// account of 0 degrees: (20 + 350) / 2 = 185.
+TEST(Bhava, NotEqualFirstAndTwelfthMids) {
+  const BhavaLimits a = ComputeBhavaLimits(10, 280, "Not Equal");
+  EXPECT_EQ(a.BhavaMid[0], 25);
+  EXPECT_EQ(a.BhavaStart[11], 340);
+  EXPECT_EQ(a.BhavaMid[11], 2.5);
+  EXPECT_EQ(a.BhavaSandhi[11], 10);
+  const BhavaLimits b = ComputeBhavaLimits(350, 260, "Not Equal");
+  EXPECT_EQ(b.BhavaStart[0], 350);
+  EXPECT_EQ(b.BhavaMid[0], 185);
+  EXPECT_EQ(b.BhavaSandhi[0], 20);
+}
+
+// Lagna and midheaven 90 degrees apart: 30 degree houses. In the Equal
+// system the Lagna is the mid point of house 1 and the midheaven that of
+// house 10; reworked, they are the starts. Any other word than "Not Equal"
+// is the Equal system.
+TEST(Bhava, LagnaAndMidheavenNinetyApart) {
+  for (const char* system : {"Equal", "Equal House", ""}) {
+    SCOPED_TRACE(system);
+    const BhavaLimits h = ComputeBhavaLimits(90, 0, system);
+    EXPECT_EQ(h.BhavaMid[0], 90);
+    EXPECT_EQ(h.BhavaMid[9], 0);
+    for (size_t k = 0; k < 12; ++k) {
+      EXPECT_EQ(std::fmod(h.BhavaSandhi[k] - h.BhavaStart[k] + 360, 360), 30) << k;
+      EXPECT_EQ(h.BhavaStart[k], std::fmod(75 + 30 * static_cast<double>(k), 360)) << k;
+    }
+  }
+  const BhavaLimits h = ComputeBhavaLimits(90, 0, "Not Equal");
+  EXPECT_EQ(h.BhavaStart[0], 90);
+  EXPECT_EQ(h.BhavaStart[9], 0);
+  EXPECT_EQ(h.BhavaMid[0], 105);
+}
+
+TEST(Bhava, Normalize360AndReduce12) {
+  const struct {
+    double in, out;
+  } cases[] = {{0, 0}, {360, 0}, {-0.5, 359.5}, {725, 5}, {-720, 0}, {359.999, 359.999}};
+  for (const auto& c : cases) EXPECT_EQ(Normalize360(c.in), c.out) << c.in;
+  EXPECT_THROW(Normalize360(INFINITY), CalculationError);
+  EXPECT_THROW(Normalize360(NAN), CalculationError);
+  EXPECT_EQ(Reduce12(12), 12);
+  EXPECT_EQ(Reduce12(13), 1);
+  EXPECT_EQ(Reduce12(23), 11);
+  EXPECT_EQ(Reduce12(25), 1);
+  EXPECT_EQ(Reduce12(1), 1);
+}
+
+// Planets Sun to Ketu at 335, 5, 344.9, 329, 345, 0, 360, 200, 340.
+TEST(Bhava, PlanetsInBhavaAtItsConstants) {
+  const ChartData c = ChartWith(0, 0, {335, 5, 344.9, 329, 345, 0, 360, 200, 340});
+  const struct {
+    double start, end;
+    const char* names;
+    const char* why;
+  } cases[] = {
+      {329, 345, "Sun Mar Mer Jup Sat Ket Sun Moo Mar Mer Jup Ven Rah Ket",
+       "both constants met: 329-360 for all nine, then 0-345 for all nine, limits included"},
+      {329, 10, "Sun Mar Mer Jup Sat Ket Moo Ven", "across 0: 329-360 then 0-10; 360 and 0 both belong"},
+      {328.99, 10, "", "across 0 but starting below 329: the plain range 328.99-10 holds nothing"},
+      {340, 345.01, "Mar Jup Ket", "an end above 345: the plain range"},
+      {330, 340, "Sun Mar Jup Sat Ket Sun Moo Mer Ven Rah Ket",
+       "a house inside 329-345 still searches 330-360 then 0-340, and names Sun and Ketu twice"},
+      {200, 200, "Rah", "a point: both limits included"},
+      {100, 150, "", "nothing there"},
+  };
+  for (const auto& k : cases) {
+    SCOPED_TRACE(k.why);
+    EXPECT_EQ(PlanetsInBhava(c, k.start, k.end), k.names);
+  }
+}
+
+// A planet on a sandhi stands in both houses; the Lagna leads house 1 with a
+// blank behind it, also when nothing else is there; the cells run sign by
+// sign from the Lagna's sign (88 is Gemini).
+TEST(Bhava, ChartHousesAndBodyOnASandhi) {
+  // Sun on the sandhi of houses 1 and 2 (103), Moon inside house 10
+  // (343 to 13) on the far side of 0, Mars at the start of house 1 (73).
+  const ChartData c =
+      ChartWith(88, 358, {103, 5, 73, -1, -1, -1, -1, -1, -1});
+  clsStar star;
+  BhavaTables t;
+  FillBhava(c, star, t);
+  EXPECT_EQ(t.BhavaPlanets[0], "Asc Sun Mar");
+  EXPECT_EQ(t.BhavaPlanets[1], "Sun");
+  EXPECT_EQ(t.BhavaPlanets[9], "Moo");
+  EXPECT_EQ(t.BhavaPlanets[11], "Mar");  // 43 to 73: the end belongs too
+  EXPECT_EQ(t.BhavaPlanets[2], "");
+  for (size_t k = 0; k < 12; ++k) {
+    EXPECT_EQ(t.chart[k].house, static_cast<int>(k) + 1);
+    EXPECT_EQ(t.chart[k].sign, static_cast<std::int16_t>((k + 2) % 12 + 1)) << k;
+    EXPECT_EQ(t.chart[k].text, t.BhavaPlanets[k]);
+    EXPECT_EQ(t.BhavaRasi[k], t.chart[k].sign);
+  }
+  EXPECT_EQ(t.chart[0].bodies, (std::vector<Body>{Body::Lagna, Body::Sun, Body::Mars}));
+  EXPECT_EQ(t.chart[9].bodies, (std::vector<Body>{Body::Moon}));
+
+  const ChartData empty = ChartWith(88, 358, kNowhere);
+  FillBhava(empty, star, t);
+  EXPECT_EQ(t.BhavaPlanets[0], "Asc ");
+  EXPECT_EQ(t.msh_Bhava.Text(1, 4), "Asc ");
+  // The sign of house 1 is the Lagna's even where the house starts in the
+  // sign before: Lagna 1 in Aries, house 1 from 346.
+  FillBhava(ChartWith(1, 271, kNowhere), star, t);
+  EXPECT_EQ(t.BhavaRasi[0], 1);
+  EXPECT_EQ(t.BhavaRasi[11], 12);
+}
+
+// The sample chart (14/07/1965 14:15, 17N20 78E30, zone 5.5 E): Lagna
+// 205.24722234655192, midheaven 115.9693235454145. The limits, their texts
+// and the houses of the planets were worked in a separate script from the
+// steps of the house division; the lords by hand:
+//  - Equal, house 1: mid point the Lagna, 205 deg 14' 50" (0.2472223 x 60 =
+//    14.83; 0.8334 x 60 = 50.0), Libra, lord Venus; 205.25 lies in Vishaka
+//    (200 to 213.33, Jupiter), 5.25 into it: pada 2; its sub from Jupiter's
+//    own (1.78) by Saturn (to 3.89) and Mercury (to 5.78): Mercury.
+//  - Equal, house 10: mid point the midheaven, 115.58.10, Cancer, Moon;
+//    Ashlesha (106.67 to 120, Mercury), 9.30 into it: pada 3; subs from
+//    Mercury: Mercury 2.22, Ketu 3.00, Venus 5.22, Sun 5.89, Moon 7.00,
+//    Mars 7.78, Rahu 9.78: Rahu.
+//  - Not Equal, house 1: mid point 220.3676 (220.22.3), Scorpio, Mars;
+//    Anuradha (213.33 to 226.67, Saturn), 7.03 into it: pada 3; subs from
+//    Saturn: Saturn 2.11, Mercury 4.00, Ketu 4.78, Venus 7.00, Sun 7.67: Sun.
+TEST(Bhava, SampleChart) {
+  const std::array<double, 9> planets = {88.3175878697087,   275.4561828767856,  164.6582273760534,
+                                         114.62903806815622, 55.498183964240155, 112.99345829639297,
+                                         323.6090305022042,  48.314118595505974, 228.31411859550596};
+  clsStar star;
+  BhavaTables t;
+  FillBhava(ChartWith(205.24722234655192, 115.9693235454145, planets, "Equal"), star, t);
+
+  const Grid& g = t.msh_Bhava;
+  ASSERT_EQ(g.Rows(), 13);
+  EXPECT_EQ(g.RowTexts(0), (std::vector<std::string>{"House  ", "  Start Bhava ", " Mid Bhava    ", " Sandhi          ",
+                                                     " Planets                                                       "}));
+  const std::vector<std::vector<std::string>> equalRows = {
+      {"1", "190.22.3", "205.14.50", "220.22.3", "Asc "},
+      {"2", "220.22.3", "235.29.17", "250.36.30", "Ket"},
+      {"3", "250.36.30", "265.43.43", "280.50.56", "Moo"},
+      {"4", "280.50.56", "295.58.10", "310.50.56", ""},
+      {"5", "310.50.56", "325.43.43", "340.36.30", "Sat"},
+      {"6", "340.36.30", "355.29.17", "10.22.3", ""},
+      {"7", "10.22.3", "25.14.50", "40.22.3", ""},
+      {"8", "40.22.3", "55.29.17", "70.36.30", "Jup Rah"},
+      {"9", "70.36.30", "85.43.43", "100.50.56", "Sun"},
+      {"10", "100.50.56", "115.58.10", "130.50.56", "Mer Ven"},
+      {"11", "130.50.56", "145.43.43", "160.36.30", ""},
+      {"12", "160.36.30", "175.29.17", "190.22.3", "Mar"},
+  };
+  for (size_t k = 0; k < 12; ++k) EXPECT_EQ(g.RowTexts(static_cast<int>(k) + 1), equalRows[k]) << k + 1;
+
+  const Grid& d = t.mshBhavaDetails;
+  ASSERT_EQ(d.Rows(), 13);
+  ASSERT_EQ(d.Cols(), 8);
+  EXPECT_EQ(d.Text(0, 4), "  Star             ");
+  EXPECT_EQ(d.RowTexts(1),
+            (std::vector<std::string>{"1", "205.14.50", "Libra", "Venus", "Vishaka", "2", "Jupiter", "Mercury"}));
+  EXPECT_EQ(d.RowTexts(10),
+            (std::vector<std::string>{"10", "115.58.10", "Cancer", "Moon", "Ashlesha", "3", "Mercury", "Rahu"}));
+  EXPECT_EQ(t.BhavaRasi[0], 7);
+  EXPECT_EQ(t.BhavaRasi[6], 1);
+
+  FillBhava(ChartWith(205.24722234655192, 115.9693235454145, planets, "Not Equal"), star, t);
+  const std::vector<std::vector<std::string>> reworked = {
+      {"1", "205.14.50", "220.22.3", "235.29.17", "Asc Ket"},
+      {"6", "355.29.17", "10.22.3", "25.14.50", ""},
+      {"7", "25.14.50", "40.22.3", "55.29.17", "Rah"},
+      {"9", "85.43.43", "100.50.56", "115.58.10", "Sun Mer Ven"},
+      {"12", "175.29.17", "190.22.3", "205.14.50", ""},
+  };
+  for (const auto& row : reworked) EXPECT_EQ(g.RowTexts(std::stoi(row[0])), row) << row[0];
+  EXPECT_EQ(d.RowTexts(1),
+            (std::vector<std::string>{"1", "220.22.3", "Scorpio", "Mars", "Anuradha", "3", "Saturn", "Sun"}));
+}
+
+// A failed fill leaves the tables of the last one.
+TEST(Bhava, FailureLeavesTheTablesAsTheyWere) {
+  clsStar star;
+  BhavaTables t;
+  FillBhava(ChartWith(88, 358, kNowhere), star, t);
+  EXPECT_THROW(FillBhava(ChartWith(NAN, 358, kNowhere), star, t), CalculationError);
+  EXPECT_EQ(t.limits.BhavaMid[0], 88);
+  EXPECT_EQ(t.msh_Bhava.Text(1, 2), "88.0.0");
+}
+
+}  // namespace
+}  // namespace kelvaro
