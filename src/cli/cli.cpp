@@ -15,6 +15,7 @@ int RunCli(int argc, const char* const* argv, std::ostream& out, std::ostream& e
   RegisterStoreCommands(app, session);
   RegisterSummaryCommand(app, session);
   RegisterConvertCommand(app, session);
+  RegisterChartCommand(app, session);
   try {
     app.parse(argc, argv);
   } catch (const CLI::CallForHelp&) {

@@ -31,5 +31,6 @@ void RegisterPositionsCommand(CLI::App& app, Session& session);
 void RegisterStoreCommands(CLI::App& app, Session& session);
 void RegisterSummaryCommand(CLI::App& app, Session& session);
 void RegisterConvertCommand(CLI::App& app, Session& session);
+void RegisterChartCommand(CLI::App& app, Session& session);
 
 }  // namespace kelvaro::cli

@@ -41,7 +41,11 @@ void RunSequence(CalculationContext& ctx) {
   Advance(ctx, done);
   FillNavamsaChart(ChartDataOf(ctx.state), ctx.cells);  // 10. on Navamsa positions
   Advance(ctx, done);
-  Advance(ctx, done);  // 11. Bhava: comes with the chart analysis
+  // 11. The houses, from a position pass of their own, and the Bhava chart.
+  ComputeChartPositions(ctx, kRasiDivision);
+  FillBhava(ChartDataOf(ctx.state), ctx.star, ctx.bhava);
+  FillBhavaChart(ctx.state.ChartStyle, ctx.bhava.BhavaRasi, ctx.bhava.BhavaPlanets, ctx.cells);
+  Advance(ctx, done);
   FillPlanetPositions(ctx);  // 12.
   Advance(ctx, done);
   FillPlanetPositions(ctx);  // 13. built twice: the second build leaves the same result
@@ -63,6 +67,7 @@ void CalculateHoroscope(CalculationContext& ctx) {
   BirthSummary summary = ctx.summary;
   ChartCells cells = ctx.cells;
   Ashtakavarga ashtakavarga = ctx.ashtakavarga;
+  BhavaTables bhava = ctx.bhava;
   PlanetTable planets = ctx.planets;
   Vargas vargas = ctx.vargas;
   DasaTables dasa = ctx.dasa;
@@ -73,6 +78,7 @@ void CalculateHoroscope(CalculationContext& ctx) {
     ctx.summary = std::move(summary);
     ctx.cells = std::move(cells);
     ctx.ashtakavarga = std::move(ashtakavarga);
+    ctx.bhava = std::move(bhava);
     ctx.planets = std::move(planets);
     ctx.vargas = std::move(vargas);
     ctx.dasa = std::move(dasa);

@@ -6,7 +6,7 @@
 // The sequence, in this order (a star marks a step after which the progress
 // advances, fifteen times in all):
 //   1 open the progress              10 Navamsa chart *
-//   2 clear the views *              11 Bhava system and chart *
+//   2 clear the views *              11 houses (own pass, division 30) and Bhava chart *
 //   3 position pass, division 30 *   12 planet table *
 //   4 names by language *            13 planet table again *
 //   5 Rasi chart *                   14 divisional charts *

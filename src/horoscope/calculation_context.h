@@ -9,6 +9,7 @@
 #include <string>
 
 #include "analysis/ashtakavarga.h"
+#include "analysis/bhava.h"
 #include "analysis/bhukthi_sink.h"
 #include "analysis/charts_master_table.h"
 #include "analysis/dasa.h"
@@ -49,6 +50,7 @@ struct CalculationContext {
   BirthSummary summary;
   ChartCells cells;  // the Rasi, Navamsa and Bhava charts
   Ashtakavarga ashtakavarga;
+  BhavaTables bhava;
   PlanetTable planets;
   Vargas vargas;
   DasaTables dasa;
