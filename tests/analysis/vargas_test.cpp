@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "common/calculation_error.h"
+#include "support/charts_master.h"
 
 namespace kelvaro {
 namespace {
@@ -149,6 +150,42 @@ TEST(Vargas, SampleChartTableRowsAskTheBands) {
   // A table chart shows what the table says, not the division: with every
   // answer the body's own sign, the Drekkana row is the Rasi row.
   EXPECT_EQ(Cells(v.mshVargas, 4), Cells(v.mshVargas, 1));
+}
+
+// The table charts of the sample chart through the seed bands, each sign
+// worked apart from the table by the classical rule of the chart (sign s at
+// d degrees): hora Leo/Cancer by halves; drekkana s, its 5th, its 9th;
+// chaturthamsha s, 4th, 7th, 10th; dashamsha from s (odd) or its 9th (even);
+// ekadashamsha the parts run on from Aries (s starts at 11 (s - 1) + 1);
+// dwadashamsha from s; chaturvimshamsha from Leo (odd) or Cancer (even);
+// trimshamsha by the unequal parts of Mars, Saturn, Jupiter, Mercury and
+// Venus; khavedamsa from Aries (odd) or Libra (even); akshvedamsa from Aries,
+// Leo or Sagittarius for movable, fixed and dual signs; shastiamsa from s.
+// For one: the Lagna, Libra 25.247, shastiamsa part 51, Libra + 50 signs is
+// Sagittarius.
+TEST(Vargas, SampleChartTableRowsFromTheSeedBands) {
+  const testing::SeedChartsMaster table;
+  ASSERT_GT(table.Size(), 0u);
+  Vargas v;
+  FillVargas(ChartWith(kSample), table, v);
+  using Row = std::vector<std::string>;
+  const struct {
+    int row;
+    Row signs;
+  } rows[] = {
+      {3, {"Can", "Can", "Can", "Can", "Leo", "Leo", "Leo", "Can", "Leo", "Leo"}},
+      {4, {"Gem", "Aqu", "Cap", "Cap", "Pis", "Cap", "Pis", "Lib", "Vir", "Pis"}},
+      {5, {"Can", "Pis", "Cap", "Sag", "Ari", "Aqu", "Ari", "Sco", "Sco", "Tau"}},
+      {10, {"Gem", "Pis", "Lib", "Vir", "Sco", "Vir", "Lib", "Vir", "Can", "Cap"}},
+      {11, {"Can", "Sag", "Vir", "Ari", "Lib", "Sag", "Vir", "Aqu", "Vir", "Pis"}},
+      {12, {"Leo", "Tau", "Pis", "Aqu", "Ari", "Pis", "Ari", "Sco", "Sag", "Gem"}},
+      {15, {"Ari", "Gem", "Sco", "Gem", "Aqu", "Pis", "Cap", "Aqu", "Vir", "Vir"}},
+      {17, {"Lib", "Lib", "Vir", "Pis", "Cap", "Sco", "Cap", "Gem", "Pis", "Pis"}},
+      {18, {"Cap", "Tau", "Tau", "Tau", "Gem", "Can", "Ari", "Sco", "Lib", "Lib"}},
+      {19, {"Tau", "Gem", "Sag", "Vir", "Ari", "Lib", "Aqu", "Can", "Sco", "Sco"}},
+      {20, {"Sag", "Aqu", "Sco", "Aqu", "Leo", "Can", "Ari", "Cap", "Tau", "Sco"}},
+  };
+  for (const auto& r : rows) EXPECT_EQ(Cells(v.mshVargas, r.row), r.signs) << v.mshVargas.Text(r.row, 0);
 }
 
 // Hora bands of Aries as the table holds them: 0 to 15 Leo, 15 to 30 Cancer,
