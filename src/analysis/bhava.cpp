@@ -5,6 +5,7 @@
 
 #include "analysis/lords.h"
 #include "analysis/planet_table.h"
+#include "analysis/rasi_number.h"
 #include "common/angle_text.h"
 #include "common/calculation_error.h"
 #include "common/number_rules.h"
@@ -21,12 +22,6 @@ constexpr double kWrapEndUpTo = 345;
 
 constexpr std::array<Body, 9> kPlanets = {Body::Sun,     Body::Moon,  Body::Mars,   Body::Mercury, Body::Jupiter,
                                           Body::Venus,   Body::Saturn, Body::Rahu,  Body::Ketu};
-
-std::int16_t RasiOfLongitude(double longitude, double division) {
-  double rasi = Int(longitude / division) + 1;
-  while (rasi > 12) rasi -= 12;
-  return CInt(rasi);
-}
 
 // Step of one sixth of the arc from `from` forward to `to`.
 double SixthOfArc(double to, double from) {

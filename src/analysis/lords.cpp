@@ -3,6 +3,7 @@
 #include <array>
 #include <string>
 
+#include "analysis/rasi_number.h"
 #include "common/calculation_error.h"
 #include "common/number_rules.h"
 
@@ -50,9 +51,7 @@ const std::string& RasiNameOf(const ChartData& chart, int rasi) {
 
 std::string RasiLordOf(double longitude, const std::string& kind) {
   const double size = kind == "Rasi" ? kRasiSize : kNavamsaSize;
-  double rasi = Int(longitude / size) + 1;
-  while (rasi > 12) rasi -= 12;
-  const int number = CInt(rasi);
+  const int number = RasiOfLongitude(longitude, size);
   if (number < 1) return {};
   return kRasiLords[static_cast<size_t>(number - 1)];
 }

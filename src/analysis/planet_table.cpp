@@ -9,6 +9,7 @@
 #include "analysis/avasthas.h"
 #include "analysis/karakas.h"
 #include "analysis/lords.h"
+#include "analysis/rasi_number.h"
 #include "common/angle_text.h"
 #include "common/number_rules.h"
 #include "common/ole_date.h"
@@ -158,12 +159,6 @@ constexpr std::array<const char*, 9> kEnglishLords = {
     "Sun", "Moon", "Mars", "Mercury", "Jupiter", "Venus", "Saturn", "Rahu", "Kethu",
 };
 
-std::int16_t RasiOf(double longitude) {
-  double rasi = Int(longitude / kRasiSize) + 1;
-  while (rasi > 12) rasi -= 12;
-  return CInt(rasi);
-}
-
 }  // namespace
 
 const std::string& SubLordTable1(const ChartData& chart, double degreesInRasi) {
@@ -212,7 +207,7 @@ void FillPlanetTable(const ChartData& chart, double ishtaGhati, ClsFindPlanetPos
   nextDay[static_cast<size_t>(Body::Ketu)] = positions.FnFindKethuPosition();
 
   std::array<std::int16_t, kBodyRows> rasi{};
-  for (int b = 0; b < kBodyRows; ++b) rasi[static_cast<size_t>(b)] = RasiOf(chart.longitude[static_cast<size_t>(b)]);
+  for (int b = 0; b < kBodyRows; ++b) rasi[static_cast<size_t>(b)] = RasiOfLongitude(chart.longitude[static_cast<size_t>(b)], kRasiSize);
 
   // Built aside, so that a failed step leaves the last table in place.
   PlanetTable built;

@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "analysis/lords.h"
+#include "analysis/rasi_number.h"
 #include "common/calculation_error.h"
 #include "common/number_rules.h"
 
@@ -57,13 +58,6 @@ constexpr std::array<const char*, kVargaChartCount - 1> kRowNames = {
 
 using Longitudes = std::array<double, kBodies>;
 using Signs = std::array<int, kBodies>;
-
-// The whole part of longitude / division, plus 1, 12 less while above 12.
-int RasiOfLongitude(double longitude, double division) {
-  double rasi = Int(longitude / division) + 1;
-  while (rasi > 12) rasi -= 12;
-  return CInt(rasi);
-}
 
 // The degree as the lookup's text carries it: the default text of a number
 // keeps 15 significant digits, so a degree a hair below a band's end reaches

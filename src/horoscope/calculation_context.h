@@ -77,10 +77,6 @@ struct CalculationContext {
   std::function<void(int, int)> OnProgress;
 };
 
-// The Rasi pass and the Navamsa pass differ only in the division size.
-inline constexpr double kRasiDivision = 30;
-inline constexpr double kNavamsaDivision = 3.33333333333333;  // this literal, not a third of 10
-
 // Sunrise and sunset of a civil date at the birth place in force.
 OleDate SunriseAtBirthPlace(CalculationContext& ctx, OleDate date);
 OleDate SunsetAtBirthPlace(CalculationContext& ctx, OleDate date);

@@ -90,12 +90,6 @@ HoroscopeState SampleChart() {
   return s;
 }
 
-std::int16_t RasiOfLongitude(double longitude, double division) {
-  double rasi = Int(longitude / division) + 1;
-  while (rasi > 12) rasi -= 12;
-  return CInt(rasi);
-}
-
 namespace {
 
 struct BodyNames {

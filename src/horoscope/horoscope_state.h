@@ -7,6 +7,7 @@
 #include <string>
 
 #include "analysis/chart_data.h"
+#include "analysis/rasi_number.h"
 #include "common/ole_date.h"
 
 namespace kelvaro {
@@ -81,10 +82,6 @@ ChartData ChartDataOf(const HoroscopeState& state);
 // Velnesh, Male, 14 Jul 1965 14:15, Hyderabad (A.P), India, 17 20 N,
 // 78 30 E, 5.5 hours East; with the default preferences.
 HoroscopeState SampleChart();
-
-// The rasi (division 30) or the Navamsa rasi (division 3.33333333333333) of a
-// longitude: whole part of longitude / division, plus 1, folded into 1..12.
-std::int16_t RasiOfLongitude(double longitude, double division);
 
 // Fills the name tables from Language: "English" or "Sanskrit"; any other
 // value leaves the tables as they are.
