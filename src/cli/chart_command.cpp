@@ -73,7 +73,7 @@ void RegisterChartCommand(CLI::App& app, Session& session) {
   auto o = std::make_shared<HoroscopeOptions>();
   AddHoroscopeOptions(cmd, *o, true);
   cmd->callback([&session, o]() {
-    RunHoroscope(*o, session, [&](const CalculationContext& ctx) { PrintChart(ctx, o->json, session); });
+    RunHoroscope(*o, session, [&](const CalculationContext& ctx, store::Database&) { PrintChart(ctx, o->json, session); });
   });
 }
 

@@ -124,7 +124,7 @@ void AddHoroscopeOptions(CLI::App* cmd, HoroscopeOptions& o, bool withChartPrefs
 }
 
 void RunHoroscope(const HoroscopeOptions& o, Session& session,
-                  const std::function<void(const CalculationContext&)>& print) {
+                  const std::function<void(const CalculationContext&, store::Database&)>& print) {
   const bool fromChart = o.chart != 0;
   if (!fromChart) {
     for (const auto& [value, flag] : {std::pair{&o.birth.date, "--date"}, std::pair{&o.birth.time, "--time"},
@@ -161,7 +161,7 @@ void RunHoroscope(const HoroscopeOptions& o, Session& session,
     }
     if (!ApplyOverrides(o, s, session)) return;
     CalculateHoroscope(ctx);
-    print(ctx);
+    print(ctx, db);
   } catch (const store::StoreError& e) {
     session.err << "kelvaro-cli: " << e.what() << "\n";
     session.status = kExitFailure;

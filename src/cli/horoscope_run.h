@@ -17,6 +17,10 @@ namespace kelvaro {
 struct CalculationContext;
 }
 
+namespace kelvaro::store {
+class Database;
+}
+
 namespace kelvaro::cli {
 
 struct HoroscopeOptions {
@@ -35,9 +39,9 @@ struct HoroscopeOptions {
 void AddHoroscopeOptions(CLI::App* cmd, HoroscopeOptions& o, bool withChartPrefs);
 
 // Opens the database, fills a context from the options, runs CalculateHoroscope
-// and hands the finished context to `print`. Bad input sets status 2; a file
+// and hands the finished context and the open database to `print`. Bad input sets status 2; a file
 // or calculation failure status 1; each with one line on stderr.
 void RunHoroscope(const HoroscopeOptions& o, Session& session,
-                  const std::function<void(const CalculationContext&)>& print);
+                  const std::function<void(const CalculationContext&, store::Database&)>& print);
 
 }  // namespace kelvaro::cli

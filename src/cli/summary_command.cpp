@@ -17,7 +17,7 @@ void RegisterSummaryCommand(CLI::App& app, Session& session) {
   auto o = std::make_shared<HoroscopeOptions>();
   AddHoroscopeOptions(cmd, *o, false);
   cmd->callback([&session, o]() {
-    RunHoroscope(*o, session, [&](const CalculationContext& ctx) {
+    RunHoroscope(*o, session, [&](const CalculationContext& ctx, store::Database&) {
       if (o->json) {
         nlohmann::ordered_json j;
         for (const auto& f : ctx.summary.Fields()) j[f.control] = *f.text;
