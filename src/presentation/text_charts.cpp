@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cctype>
 #include <string_view>
-#include <vector>
 
 #include "common/number_rules.h"
 
@@ -202,9 +201,11 @@ std::string DrawTable(const Piece (&table)[Size], const TextChartCells& cells, i
   return out;
 }
 
-// A title line over a frame of the given width: centred, no trailing blanks.
+// A title line over a frame of the given width: the margin, then the title
+// centred (half to even), with no blanks after it; no title, just the margin.
 std::string TitleLine(const std::string& title, int margin, int width) {
-  const int pad = std::max(0, static_cast<int>(CInt((width - static_cast<double>(title.size())) / 2.0)));
+  const int pad =
+      title.empty() ? 0 : std::max(0, static_cast<int>(CInt((width - static_cast<double>(title.size())) / 2.0)));
   std::string line(static_cast<size_t>(margin + pad), ' ');
   line.append(title);
   line.append(kCrLf);
@@ -214,8 +215,9 @@ std::string TitleLine(const std::string& title, int margin, int width) {
 constexpr int kSouthCellWidth = 11;
 constexpr int kSouthCentreWidth = 23;
 constexpr int kSouthWidth = 49;
-// The three text lines of a South cell start at characters 1, 13 and 25;
-// character 12 and 24, the blank after a fourth name, are never shown.
+// The three text lines of a South cell start at characters 1, 13 and 25, so
+// that each holds three names; characters 12 and 24, the blank after every
+// third name, fall between the lines.
 constexpr int kSouthLineStarts[3] = {1, 13, 25};
 
 }  // namespace
@@ -307,25 +309,27 @@ std::string EastTextChart(const TextChartCells& cells, const std::string& title)
 
 namespace {
 
-TextChartCells CellsOf(const ChartWindow& window, const std::string& style,
-                       std::string (*southReducer)(const std::string&), std::string (*northReducer)(const std::string&),
-                       std::string (*eastReducer)(const std::string&)) {
-  TextChartCells out;
+using Reducer = std::string (*)(const std::string&);
+
+// The twelve labels of the style's array, in index order, each reduced.
+TextChartCells CellsOf(const ChartWindow& window, const std::string& style, Reducer south, Reducer north,
+                       Reducer east) {
   const std::string upper = Upper(style);
   const LabelArray* labels = nullptr;
-  std::string (*reducer)(const std::string&) = nullptr;
+  Reducer reducer = nullptr;
   if (upper == "SOUTH") {
     labels = &window.south;
-    reducer = southReducer;
+    reducer = south;
   } else if (upper == "NORTH") {
     labels = &window.north;
-    reducer = northReducer;
+    reducer = north;
   } else if (upper == "EAST") {
     labels = &window.east;
-    reducer = eastReducer;
+    reducer = east;
   } else {
-    return out;
+    return {};
   }
+  TextChartCells out;
   for (int i = 0; i < 12; ++i) out[static_cast<size_t>(i)] = reducer(labels->Caption(labels->FirstIndex() + i));
   return out;
 }

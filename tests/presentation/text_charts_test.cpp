@@ -2,10 +2,268 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstdint>
 #include <string>
+#include <utility>
+#include <vector>
+
+#include "support/sample_chart.h"
 
 namespace kelvaro {
 namespace {
+
+using testing::EnglishNames;
+using testing::kSampleLongitude;
+
+// Rasi and navamsa signs of the sample chart's bodies, Lagna to Maandi.
+constexpr std::array<std::int16_t, 12> kSampleRasi = {7, 3, 10, 6, 4, 2, 4, 11, 2, 8, 6, 6};
+constexpr std::array<std::int16_t, 12> kSampleNavamsa = {2, 3, 11, 2, 11, 5, 10, 2, 3, 9, 6, 4};
+
+ChartData SampleChart(const std::string& style, bool navamsa) {
+  ChartData c = EnglishNames();
+  c.chartStyle = style;
+  c.longitude = kSampleLongitude;
+  c.rasi = navamsa ? kSampleNavamsa : kSampleRasi;
+  return c;
+}
+
+// The drawing's lines without their CR LF, each checked to begin with the
+// margin and given back without it.
+std::vector<std::string> Lines(const std::string& drawing, int margin) {
+  std::vector<std::string> out;
+  const std::string pad(static_cast<size_t>(margin), ' ');
+  size_t from = 0;
+  while (from < drawing.size()) {
+    const size_t end = drawing.find("\r\n", from);
+    EXPECT_NE(end, std::string::npos) << "a line without CR LF at the end";
+    if (end == std::string::npos) break;
+    const std::string line = drawing.substr(from, end - from);
+    EXPECT_EQ(line.substr(0, pad.size()), pad) << "margin of line " << out.size() + 1;
+    EXPECT_EQ(line.find('\n'), std::string::npos);
+    EXPECT_EQ(line.find('\r'), std::string::npos);
+    out.push_back(line.substr(std::min(line.size(), pad.size())));
+    from = end + 2;
+  }
+  return out;
+}
+
+template <size_t Size>
+void ExpectDrawing(const std::string& drawing, int margin, const char* const (&golden)[Size], const std::string& what) {
+  const std::vector<std::string> lines = Lines(drawing, margin);
+  ASSERT_EQ(lines.size(), Size) << what;
+  for (size_t i = 0; i < Size; ++i) EXPECT_EQ(lines[i], golden[i]) << what << " line " << i + 1;
+}
+
+// Where the frame's "*" stand, line by line.
+std::vector<std::vector<size_t>> StarColumns(const std::vector<std::string>& lines) {
+  std::vector<std::vector<size_t>> out;
+  for (const std::string& line : lines) {
+    std::vector<size_t> columns;
+    for (size_t c = 0; c < line.size(); ++c) {
+      if (line[c] == '*') columns.push_back(c);
+    }
+    out.push_back(std::move(columns));
+  }
+  return out;
+}
+
+// The sample chart's reduced cells, cell 1 first, read off its labels by hand.
+const TextChartCells kSouthRasiCells = {"", "Jup Rah", "Sun", "Mer Ven", "", "Mar Gul Maa",
+                                        "Asc", "Ket", "", "Moo", "Sat", ""};
+const TextChartCells kSouthNavamsaCells = {"", "Asc Mar Sat", "Sun Rah", "Maa", "Jup", "Gul",
+                                           "", "", "Ket", "Ven", "Moo Mer", ""};
+const TextChartCells kNorthRasiCells = {"Asc", "Ket", "", "Moo", "Sat", "", "", "Jup Rah", "Sun", "Mer Ven", "",
+                                        "Mar Gul Maa"};
+// The East Rasi label keeps its bodies on one line: three characters remain.
+const TextChartCells kEastRasiCells = {"", "Jup", "Sun", "Mer", "", "Mar", "Asc", "Ket", "", "Moo", "Sat", ""};
+// Full cells: all twelve bodies in every cell, each cell starting one body
+// further on, so that a cut taken from the wrong cell or place shows.
+const TextChartCells kFullCells = {
+    "Asc Sun Moo Mar Mer Jup Ven Sat Rah Ket Gul Maa",
+    "Sun Moo Mar Mer Jup Ven Sat Rah Ket Gul Maa Asc",
+    "Moo Mar Mer Jup Ven Sat Rah Ket Gul Maa Asc Sun",
+    "Mar Mer Jup Ven Sat Rah Ket Gul Maa Asc Sun Moo",
+    "Mer Jup Ven Sat Rah Ket Gul Maa Asc Sun Moo Mar",
+    "Jup Ven Sat Rah Ket Gul Maa Asc Sun Moo Mar Mer",
+    "Ven Sat Rah Ket Gul Maa Asc Sun Moo Mar Mer Jup",
+    "Sat Rah Ket Gul Maa Asc Sun Moo Mar Mer Jup Ven",
+    "Rah Ket Gul Maa Asc Sun Moo Mar Mer Jup Ven Sat",
+    "Ket Gul Maa Asc Sun Moo Mar Mer Jup Ven Sat Rah",
+    "Gul Maa Asc Sun Moo Mar Mer Jup Ven Sat Rah Ket",
+    "Maa Asc Sun Moo Mar Mer Jup Ven Sat Rah Ket Gul",
+};
+
+// Goldens laid out from the line tables by hand and a separate script, margins left off.
+const char* const kSouthRasi[] = {
+    "*************************************************",
+    "*           *Jup Rah    *Sun        *Mer Ven    *",
+    "*           *           *           *           *",
+    "*           *           *           *           *",
+    "*           *           *           *           *",
+    "*************************************************",
+    "*           *                       *Mar Gul Maa*",
+    "*           *                       *           *",
+    "*           *                       *           *",
+    "*           *                       *           *",
+    "*************          Rasi         *************",
+    "*Asc        *                       *Ket        *",
+    "*           *                       *           *",
+    "*           *                       *           *",
+    "*           *                       *           *",
+    "*************************************************",
+    "*           *Moo        *Sat        *           *",
+    "*           *           *           *           *",
+    "*           *           *           *           *",
+    "*           *           *           *           *",
+    "*************************************************",
+};
+const char* const kSouthNavamsa[] = {
+    "*************************************************",
+    "*           *Asc Mar Sat*Sun Rah    *Maa        *",
+    "*           *           *           *           *",
+    "*           *           *           *           *",
+    "*           *           *           *           *",
+    "*************************************************",
+    "*Jup        *                       *Gul        *",
+    "*           *                       *           *",
+    "*           *                       *           *",
+    "*           *                       *           *",
+    "*************        Navamsa        *************",
+    "*           *                       *           *",
+    "*           *                       *           *",
+    "*           *                       *           *",
+    "*           *                       *           *",
+    "*************************************************",
+    "*Ket        *Ven        *Moo Mer    *           *",
+    "*           *           *           *           *",
+    "*           *           *           *           *",
+    "*           *           *           *           *",
+    "*************************************************",
+};
+const char* const kSouthFull[] = {
+    "*************************************************",
+    "*Asc Sun Moo*Sun Moo Mar*Moo Mar Mer*Mar Mer Jup*",
+    "*Mar Mer Jup*Mer Jup Ven*Jup Ven Sat*Ven Sat Rah*",
+    "*Ven Sat Rah*Sat Rah Ket*Rah Ket Gul*Ket Gul Maa*",
+    "*           *           *           *           *",
+    "*************************************************",
+    "*Mer Jup Ven*                       *Jup Ven Sat*",
+    "*Sat Rah Ket*                       *Rah Ket Gul*",
+    "*Gul Maa Asc*                       *Maa Asc Sun*",
+    "*           *                       *           *",
+    "*************          Rasi         *************",
+    "*Ven Sat Rah*                       *Sat Rah Ket*",
+    "*Ket Gul Maa*                       *Gul Maa Asc*",
+    "*Asc Sun Moo*                       *Sun Moo Mar*",
+    "*           *                       *           *",
+    "*************************************************",
+    "*Rah Ket Gul*Ket Gul Maa*Gul Maa Asc*Maa Asc Sun*",
+    "*Maa Asc Sun*Asc Sun Moo*Sun Moo Mar*Moo Mar Mer*",
+    "*Moo Mar Mer*Mar Mer Jup*Mer Jup Ven*Jup Ven Sat*",
+    "*           *           *           *           *",
+    "*************************************************",
+};
+const char* const kNorthRasi[] = {
+    "                  Rasi",
+    "* * * * * * * * * * * * * * * * * * * * *",
+    "* * Ket             * Moo             * * ",
+    "*   *             *   *             *   *",
+    "* Asc *         *       *         * Sat *",
+    "*       *   8 *           *  10 *       *",
+    "*        7* *               * *11       *",
+    "*         * *               * *         *",
+    "*       *     *           *     *       *",
+    "*     *         *       *         *     *",
+    "*   *             *  9*             *   *",
+    "* *                 *                 * *",
+    "* *               12* 1               * *",
+    "*   *             *  4*             *   *",
+    "* Jup *         *  Mer  *         * Mar *",
+    "*Rah    *     *  Ven      *     *Gul Maa*",
+    "*        2* *               * * 6       *",
+    "*         * *               * *         *",
+    "*       *   3 *           *   5 *       *",
+    "*     * Sun     *       *         *     *",
+    "*   *             *   *             *   *",
+    "* *                 *                 * *",
+    "* * * * * * * * * * * * * * * * * * * * *",
+};
+const char* const kNorthFull[] = {
+    "                 Navamsa",
+    "* * * * * * * * * * * * * * * * * * * * *",
+    "* * Sun Moo Mar Mer * Mar Mer Jup Ven * * ",
+    "*   * Jup Ven Sat *   * Sat Rah Ket *   *",
+    "* Asc * Rah Ket *   Moo * Gul Maa * Mer *",
+    "*Sun Moo*   1 *  Mar Mer  *   3 *Jup Ven*",
+    "*Mar Mer12* *  Jup Ven Sat  * * 4Sat Rah*",
+    "*Jup Ven  * *    Rah Ket    * *  Ket Gul*",
+    "*at Rah *     *    Gul    *     *aa Asc *",
+    "*     *   Jup   *       *   Ven   *     *",
+    "*   *   Ven Sat   *  2*   Sat Rah   *   *",
+    "* *   Rah Ket Gul   *   Ket Gul Maa   * *",
+    "* *     Maa Asc    5* 6   Asc Sun     * *",
+    "*   *     Sun     *  9*     Moo     *   *",
+    "* Sat *         *  Ket  *         * Maa *",
+    "*Rah Ket*     *  Gul Maa  *     *Asc Sun*",
+    "*Gul Maa 7* *  Asc Sun Moo  * *11Moo Mar*",
+    "*Asc Sun  * *    Mar Mer    * *  Mer Jup*",
+    "*Moo Mar*   8 *    Jup    *  10 *Ven Sat*",
+    "*     * Rah Ket *       * Gul Maa *     *",
+    "*   * Gul Maa Asc *   * Asc Sun Moo *   *",
+    "* * Sun Moo Mar Mer * Mar Mer Jup Ven * *",
+    "* * * * * * * * * * * * * * * * * * * * *",
+};
+const char* const kEastRasi[] = {
+    "                    Rasi",
+    "* * * * * * * * * * * * * * * * * * * * * *",
+    "* *Jup        * Sun         *Mer        * *",
+    "*   *         *             *         *   *",
+    "*     *       *             *       *     *",
+    "*       *     *             *     *       *",
+    "*         *   *             *   *         *",
+    "*           * *             * *           *",
+    "* * * * * * * * * * * * * * * * * * * * * *",
+    "* Mar         *             * Asc         *",
+    "*             *             *             *",
+    "*             *             *             *",
+    "*             *             *             *",
+    "*             *             *             *",
+    "*             *             *             *",
+    "* * * * * * * * * * * * * * * * * * * * * *",
+    "*Ket        * *             * *           *",
+    "*         *   *   Moo       *Sat*         *",
+    "*       *     *             *     *       *",
+    "*     *       *             *       *     *",
+    "*   *         *             *         *   *",
+    "* *           *             *           * *",
+    "* * * * * * * * * * * * * * * * * * * * * *",
+};
+const char* const kEastFull[] = {
+    "                   Bhava",
+    "* * * * * * * * * * * * * * * * * * * * * *",
+    "* *Sun Moo Mar* Moo Mar     *Mar Mer Jup* *",
+    "*Asc*  Mer Jup* Mer Jup     *Ven Sat  *Mer*",
+    "*Sun  *Ven Sat* Jup Ven     *Rah Ket*  Jup*",
+    "*Moo Mar*  Rah* Rah Ket     *Gul  *Ven Sat*",
+    "*Mer Jup  *Ket*   Gul       *Maa*  Rah Ket*",
+    "*Ven Sat Rah* *             * *Gul Maa Asc*",
+    "* * * * * * * * * * * * * * * * * * * * * *",
+    "* Jup Ven Sat *             * Ven Sat Rah *",
+    "* Rah Ket Gul *             * Ket Gul Maa *",
+    "* Maa Asc Sun *             * Asc Sun Moo *",
+    "*             *             *             *",
+    "*             *             *             *",
+    "*             *             *             *",
+    "* * * * * * * * * * * * * * * * * * * * * *",
+    "*Sat Rah Ket* *             * *Maa Asc Sun*",
+    "*Gul Maa  *Rah*   Ket       *Gul*  Moo Mar*",
+    "*Asc Sun*  Ket* Gul Maa     *Maa  *Mer Jup*",
+    "*Moo  *Gul Maa* Asc Sun     *Asc Sun*  Ven*",
+    "*Mar*  Asc Sun* Moo Mar     *Moo Mar  *Sat*",
+    "* *Moo Mar Mer* Mer Jup     *Mer Jup Ven* *",
+    "* * * * * * * * * * * * * * * * * * * * * *",
+};
 
 // ---- Reducers ---------------------------------------------------------------
 
@@ -21,6 +279,8 @@ TEST(ReduceCell, LinesKeepTheNamesOfASouthRasiCell) {
   EXPECT_EQ(ReduceCellLines("Asc  28.19\r\nSun  0.5\r\nMer  29.60"), "Asc Sun Mer");
   // A Navamsa South cell: names with their two trailing blanks.
   EXPECT_EQ(ReduceCellLines("Mar  \r\nSat  "), "Mar Sat");
+  // A lone CR or LF is no line break.
+  EXPECT_EQ(ReduceCellLines("Sun\nMoo"), "Sun");
 }
 
 TEST(ReduceCell, LinesKeepOnlyThreeCharactersOfAnEastRasiLabel) {
@@ -48,6 +308,7 @@ TEST(ReduceCell, EmptyPiecesInsideAddBlanksTheEndsDoNot) {
   EXPECT_EQ(ReduceCellLines("\r\nSun  1.2\r\n"), "Sun");
   EXPECT_EQ(ReduceCellPairs("Sun      Moo"), "Sun   Moo");
   EXPECT_EQ(ReduceCellBlanks("   "), "");
+  EXPECT_EQ(ReduceCellPairs("    "), "");
 }
 
 // ---- TightenBlanks -----------------------------------------------------------
@@ -57,10 +318,244 @@ TEST(TightenBlanks, RunsOfThreeInOnePassFromTheLeft) {
   EXPECT_EQ(TightenBlanks("  "), "  ");
   EXPECT_EQ(TightenBlanks("   "), " ");
   EXPECT_EQ(TightenBlanks("    "), "  ");
-  EXPECT_EQ(TightenBlanks("     "), "   ");  // not looked at again
+  EXPECT_EQ(TightenBlanks("     "), "   ");  // what a replacement leaves is not looked at again
   EXPECT_EQ(TightenBlanks("      "), "  ");
   EXPECT_EQ(TightenBlanks("Sun   Moo"), "Sun Moo");
   EXPECT_EQ(TightenBlanks("Sun    Moo  Mar"), "Sun  Moo  Mar");
+}
+
+TEST(TightenBlanks, EachRoutineTightensItsCellsFirst) {
+  TextChartCells cells{};
+  cells[0] = "Sun   Moo";  // three blanks, as ReduceCellPairs leaves of six
+  const std::vector<std::string> south = Lines(SouthTextChart(cells, ""), kSouthTextChartMargin);
+  EXPECT_EQ(south[1].substr(0, 13), "*Sun Moo    *");
+  const std::vector<std::string> north = Lines(NorthTextChart(cells, "", 1), kNorthTextChartMargin);
+  EXPECT_EQ(north[4].substr(0, 7), "* Sun *");  // C(1,1,3)
+  EXPECT_EQ(north[5].substr(0, 9), "*Moo    *");  // C(1,5,7)
+  const std::vector<std::string> east = Lines(EastTextChart(cells, ""), kEastTextChartMargin);
+  EXPECT_EQ(east[3].substr(0, 5), "*Sun*");  // C(1,1,3)
+  EXPECT_EQ(east[4].substr(0, 5), "*Moo ");  // C(1,5,3)
+}
+
+// ---- Drawings of the sample chart --------------------------------------------
+
+TEST(SouthTextChart, SampleRasiAndNavamsa) {
+  ExpectDrawing(SouthTextChart(kSouthRasiCells, "Rasi"), kSouthTextChartMargin, kSouthRasi, "South Rasi");
+  ExpectDrawing(SouthTextChart(kSouthNavamsaCells, "Navamsa"), kSouthTextChartMargin, kSouthNavamsa,
+                "South Navamsa");
+}
+
+TEST(NorthTextChart, SampleRasi) {
+  ExpectDrawing(NorthTextChart(kNorthRasiCells, "Rasi", 7), kNorthTextChartMargin, kNorthRasi, "North Rasi");
+}
+
+TEST(EastTextChart, SampleRasi) {
+  ExpectDrawing(EastTextChart(kEastRasiCells, "Rasi"), kEastTextChartMargin, kEastRasi, "East Rasi");
+}
+
+TEST(TextCharts, FullCellsCutAtTheTablesPlaces) {
+  ExpectDrawing(SouthTextChart(kFullCells, "Rasi"), kSouthTextChartMargin, kSouthFull, "South");
+  ExpectDrawing(NorthTextChart(kFullCells, "Navamsa", 12), kNorthTextChartMargin, kNorthFull, "North");
+  ExpectDrawing(EastTextChart(kFullCells, "Bhava"), kEastTextChartMargin, kEastFull, "East");
+}
+
+// ---- Widths and the frame -----------------------------------------------------
+
+TEST(TextCharts, EveryLineAsWideAsItsTable) {
+  for (const TextChartCells& cells : {TextChartCells{}, kSouthRasiCells, kFullCells}) {
+    const std::vector<std::string> south = Lines(SouthTextChart(cells, "Navamsa"), kSouthTextChartMargin);
+    ASSERT_EQ(south.size(), 21u);
+    for (size_t i = 0; i < south.size(); ++i) EXPECT_EQ(south[i].size(), 49u) << "South line " << i + 1;
+
+    // The North and East drawings have their title line first.
+    const std::vector<std::string> north = Lines(NorthTextChart(cells, "Rasi", 3), kNorthTextChartMargin);
+    ASSERT_EQ(north.size(), 23u);
+    for (size_t i = 1; i < north.size(); ++i) {
+      // Line 2 of the table ends in " * * ", one blank past the frame.
+      EXPECT_EQ(north[i].size(), i == 2 ? 42u : 41u) << "North line " << i;
+    }
+    const std::vector<std::string> east = Lines(EastTextChart(cells, "Rasi"), kEastTextChartMargin);
+    ASSERT_EQ(east.size(), 23u);
+    for (size_t i = 1; i < east.size(); ++i) EXPECT_EQ(east[i].size(), 43u) << "East line " << i;
+  }
+}
+
+TEST(TextCharts, FullCellsKeepTheFrame) {
+  // Cell texts hold no "*", so every "*" is frame: it must stand where it
+  // stands with empty cells, whatever the cells hold.
+  const TextChartCells empty{};
+  EXPECT_EQ(StarColumns(Lines(SouthTextChart(kFullCells, "Rasi"), kSouthTextChartMargin)),
+            StarColumns(Lines(SouthTextChart(empty, "Rasi"), kSouthTextChartMargin)));
+  EXPECT_EQ(StarColumns(Lines(NorthTextChart(kFullCells, "Rasi", 5), kNorthTextChartMargin)),
+            StarColumns(Lines(NorthTextChart(empty, "Rasi", 5), kNorthTextChartMargin)));
+  EXPECT_EQ(StarColumns(Lines(EastTextChart(kFullCells, "Rasi"), kEastTextChartMargin)),
+            StarColumns(Lines(EastTextChart(empty, "Rasi"), kEastTextChartMargin)));
+  // And the frame of the empty South chart is the golden's.
+  std::vector<std::string> golden(std::begin(kSouthRasi), std::end(kSouthRasi));
+  EXPECT_EQ(StarColumns(Lines(SouthTextChart(empty, "Rasi"), kSouthTextChartMargin)), StarColumns(golden));
+  // Longer texts than the cuts take change nothing either.
+  TextChartCells longer;
+  for (auto& cell : longer) cell = std::string(80, 'x');
+  EXPECT_EQ(StarColumns(Lines(EastTextChart(longer, "Rasi"), kEastTextChartMargin)),
+            StarColumns(Lines(EastTextChart(empty, "Rasi"), kEastTextChartMargin)));
+}
+
+TEST(TextCharts, DrawingsEndWithCrLfAndNothingElse) {
+  for (const std::string& drawing : {SouthTextChart(kFullCells, "Rasi"), NorthTextChart(kFullCells, "Rasi", 1),
+                                     EastTextChart(kFullCells, "Rasi")}) {
+    ASSERT_GE(drawing.size(), 2u);
+    EXPECT_EQ(drawing.substr(drawing.size() - 2), "\r\n");
+    EXPECT_EQ(drawing.find("\r\n\r\n"), std::string::npos);
+  }
+}
+
+// ---- The South title ---------------------------------------------------------
+
+TEST(SouthTextChart, TitleCentredWithHalfToEvenPad) {
+  // Left pad 12 - length / 2, rounded half to even; the right pad fills 23.
+  const struct {
+    std::string title;
+    std::string centre;
+  } cases[] = {
+      {"Rasi", "          Rasi         "},     // 10
+      {"Navamsa", "        Navamsa        "},  // 8.5 -> 8
+      {"Bhava", "          Bhava        "},    // 9.5 -> 10
+      {"", "                       "},
+      {"X", "            X          "},  // 11.5 -> 12
+      {"Twenty-three characters", "Twenty-three characters"},
+      {"Twenty-four characters!!", "Twenty-four characters!"},  // cut to the centre
+  };
+  for (const auto& c : cases) {
+    const std::vector<std::string> lines = Lines(SouthTextChart({}, c.title), kSouthTextChartMargin);
+    ASSERT_EQ(lines.size(), 21u);
+    EXPECT_EQ(lines[10], "*************" + c.centre + "*************") << '"' << c.title << '"';
+  }
+}
+
+TEST(TextCharts, NorthAndEastTitleLineCentredOverTheFrame) {
+  EXPECT_EQ(Lines(NorthTextChart({}, "Rasi", 1), kNorthTextChartMargin)[0], std::string(18, ' ') + "Rasi");
+  EXPECT_EQ(Lines(NorthTextChart({}, "Bhava", 1), kNorthTextChartMargin)[0], std::string(18, ' ') + "Bhava");
+  EXPECT_EQ(Lines(EastTextChart({}, "Navamsa"), kEastTextChartMargin)[0], std::string(18, ' ') + "Navamsa");
+  EXPECT_EQ(Lines(EastTextChart({}, ""), kEastTextChartMargin)[0], "");
+}
+
+// ---- North sign numbers ------------------------------------------------------
+
+// The inner corner of each cell in the North drawing: line (0 is the title
+// line) and column of its two-character sign field, cell 1 first.
+constexpr std::array<std::pair<size_t, size_t>, 12> kNorthCorners = {{
+    {6, 8},    // cell 1, upper-left triangle
+    {5, 11},   // cell 2, top-left triangle
+    {10, 20},  // cell 3, top diamond, above the centre
+    {5, 29},   // cell 4
+    {6, 31},   // cell 5
+    {12, 18},  // cell 6, left diamond, left of the centre
+    {12, 21},  // cell 7, right diamond
+    {16, 8},   // cell 8
+    {18, 11},  // cell 9
+    {13, 20},  // cell 10, bottom diamond, below the centre
+    {18, 29},  // cell 11
+    {16, 31},  // cell 12
+}};
+
+std::array<std::string, 12> CornerNumbers(const std::string& drawing) {
+  const std::vector<std::string> lines = Lines(drawing, kNorthTextChartMargin);
+  std::array<std::string, 12> out;
+  for (size_t k = 0; k < 12; ++k) {
+    const auto [line, column] = kNorthCorners[k];
+    out[k] = lines.at(line).substr(column, 2);
+  }
+  return out;
+}
+
+TEST(NorthTextChart, SignNumbersAtTheInnerCornersForSeveralLagnas) {
+  const struct {
+    int lagna;
+    std::array<std::string, 12> signs;  // at the corners of cells 1 to 12
+  } cases[] = {
+      {1, {" 1", " 2", " 3", " 4", " 5", " 6", " 7", " 8", " 9", "10", "11", "12"}},
+      {7, {" 7", " 8", " 9", "10", "11", "12", " 1", " 2", " 3", " 4", " 5", " 6"}},
+      {11, {"11", "12", " 1", " 2", " 3", " 4", " 5", " 6", " 7", " 8", " 9", "10"}},
+      {12, {"12", " 1", " 2", " 3", " 4", " 5", " 6", " 7", " 8", " 9", "10", "11"}},
+  };
+  for (const auto& c : cases) {
+    EXPECT_EQ(CornerNumbers(NorthTextChart({}, "Rasi", c.lagna)), c.signs) << "Lagna " << c.lagna;
+    // Full cells do not move them.
+    EXPECT_EQ(CornerNumbers(NorthTextChart(kFullCells, "Rasi", c.lagna)), c.signs) << "Lagna " << c.lagna;
+  }
+}
+
+TEST(NorthTextChart, CornerNumbersAreTheWindowsHouseSigns) {
+  ChartCells cells;
+  for (bool navamsa : {false, true}) {
+    ChartWindow& window = navamsa ? cells.navamsa : cells.rasi;
+    if (navamsa) {
+      FillNavamsaChart(SampleChart("North", true), cells);
+    } else {
+      FillRasiChart(SampleChart("North", false), cells);
+    }
+    EXPECT_EQ(NorthLagnaSign(window), navamsa ? 2 : 7);
+    const auto corners = CornerNumbers(NorthTextChart(ReportCells(window, "NORTH"), "x", NorthLagnaSign(window)));
+    for (int k = 1; k <= 12; ++k) {
+      std::string expected = window.northHouseNo.Caption(k);
+      if (expected.size() == 1) expected.insert(0, " ");
+      EXPECT_EQ(corners[static_cast<size_t>(k - 1)], expected) << window.name << " cell " << k;
+    }
+  }
+  EXPECT_EQ(NorthLagnaSign(cells.bhava), 0);  // never filled
+}
+
+// ---- The report's cells ------------------------------------------------------
+
+TEST(ReportCells, SampleRasiInEachStyle) {
+  ChartCells cells;
+  FillRasiChart(SampleChart("South", false), cells);
+  EXPECT_EQ(ReportCells(cells.rasi, "SOUTH"), kSouthRasiCells);
+  FillRasiChart(SampleChart("North", false), cells);
+  EXPECT_EQ(ReportCells(cells.rasi, "NORTH"), kNorthRasiCells);
+  FillRasiChart(SampleChart("East", false), cells);
+  EXPECT_EQ(ReportCells(cells.rasi, "EAST"), kEastRasiCells);
+  // The style is compared upper-cased; another gives empty cells.
+  EXPECT_EQ(ReportCells(cells.rasi, "East"), kEastRasiCells);
+  EXPECT_EQ(ReportCells(cells.rasi, "Western"), TextChartCells{});
+  EXPECT_EQ(ReportCells(cells.rasi, ""), TextChartCells{});
+}
+
+TEST(ReportCells, SampleNavamsaSouth) {
+  ChartCells cells;
+  FillNavamsaChart(SampleChart("South", true), cells);
+  EXPECT_EQ(ReportCells(cells.navamsa, "south"), kSouthNavamsaCells);
+  ExpectDrawing(TextChart("South", ReportCells(cells.navamsa, "SOUTH"), "Navamsa", 0), kSouthTextChartMargin,
+                kSouthNavamsa, "South Navamsa from the window");
+}
+
+TEST(ReportCells, BhavaCellsByBlanks) {
+  // The sample chart's houses: rasi of house k, and its short names as the
+  // Bhava system lists them, the Lagna's name and a blank first in house 1.
+  const std::array<std::int16_t, 12> rasi = {7, 8, 9, 10, 11, 12, 1, 2, 3, 4, 5, 6};
+  const std::array<std::string, 12> planets = {"Asc ", "Ket", "Moo", "", "Sat", "", "", "Jup Rah", "Sun",
+                                               "Mer Ven", "", "Mar Gul"};
+  const TextChartCells bySign = {"", "Jup Rah", "Sun", "Mer Ven", "", "Mar Gul", "Asc", "Ket", "Moo", "", "Sat", ""};
+  const TextChartCells byHouse = {"Asc", "Ket", "Moo", "", "Sat", "", "", "Jup Rah", "Sun", "Mer Ven", "", "Mar Gul"};
+  ChartCells cells;
+  FillBhavaChart("South", rasi, planets, cells);
+  EXPECT_EQ(ReportBhavaCells(cells.bhava, "SOUTH"), bySign);
+  FillBhavaChart("East", rasi, planets, cells);
+  EXPECT_EQ(ReportBhavaCells(cells.bhava, "EAST"), bySign);
+  FillBhavaChart("North", rasi, planets, cells);
+  EXPECT_EQ(ReportBhavaCells(cells.bhava, "NORTH"), byHouse);
+  EXPECT_EQ(NorthLagnaSign(cells.bhava), 7);
+  EXPECT_EQ(ReportBhavaCells(cells.bhava, "WEST"), TextChartCells{});
+}
+
+TEST(TextChart, RoutineByTheUpperCasedStyle) {
+  EXPECT_EQ(TextChart("SOUTH", kFullCells, "Rasi", 4), SouthTextChart(kFullCells, "Rasi"));
+  EXPECT_EQ(TextChart("south", kFullCells, "Rasi", 4), SouthTextChart(kFullCells, "Rasi"));
+  EXPECT_EQ(TextChart("North", kFullCells, "Rasi", 4), NorthTextChart(kFullCells, "Rasi", 4));
+  EXPECT_EQ(TextChart("EAST", kFullCells, "Rasi", 4), EastTextChart(kFullCells, "Rasi"));
+  EXPECT_EQ(TextChart("", kFullCells, "Rasi", 4), "");
+  EXPECT_EQ(TextChart("South ", kFullCells, "Rasi", 4), "");
+  EXPECT_EQ(TextChart("Western", kFullCells, "Rasi", 4), "");
 }
 
 }  // namespace
