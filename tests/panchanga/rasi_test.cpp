@@ -21,12 +21,11 @@ clsRasi RasiAt(double position, const char* language) {
   return r;
 }
 
-// Each sign's upper bound, included, and the next double above it, in both
-// languages. The half, worked by hand: 30 comes off once, then again while the
+// Sign upper bounds, included, and the next double above, in both languages. The half, worked by hand: 30 comes off once, then again while the
 // rest is above 30; a rest of at most 15 is half 1. At 30k (k >= 2) the rest
 // stops at exactly 30: half 2. Just above 30k it is a hair above 0: half 1.
 // 30.01 - 30 = 0.01: half 1.
-TEST(Rasi, EverySignAtItsUpperBoundAndJustAbove) {
+TEST(Rasi, SignUpperBoundsAndJustAbove) {
   struct Case {
     double position;
     std::int16_t no;
@@ -39,22 +38,8 @@ TEST(Rasi, EverySignAtItsUpperBoundAndJustAbove) {
       {Above(30.01), 2, "Vrishaba", "Taurus", 1},
       {60, 2, "Vrishaba", "Taurus", 2},
       {Above(60), 3, "Mithuna", "Gemini", 1},
-      {90, 3, "Mithuna", "Gemini", 2},
-      {Above(90), 4, "Kataka", "Cancer", 1},
-      {120, 4, "Kataka", "Cancer", 2},
-      {Above(120), 5, "Simha", "Leo", 1},
-      {150, 5, "Simha", "Leo", 2},
-      {Above(150), 6, "Kanya", "Virgo", 1},
       {180, 6, "Kanya", "Virgo", 2},
       {Above(180), 7, "Thula", "Libra", 1},
-      {210, 7, "Thula", "Libra", 2},
-      {Above(210), 8, "Vrishchika", "Scorpio", 1},
-      {240, 8, "Vrishchika", "Scorpio", 2},
-      {Above(240), 9, "Dhanus", "Sagitarius", 1},
-      {270, 9, "Dhanus", "Sagitarius", 2},
-      {Above(270), 10, "Makara", "Capricon", 1},
-      {300, 10, "Makara", "Capricon", 2},
-      {Above(300), 11, "Khumba", "Aquarius", 1},
       {330, 11, "Khumba", "Aquarius", 2},
       {Above(330), 12, "Meena", "Pisces", 1},
       {360, 12, "Meena", "Pisces", 2},
@@ -83,13 +68,10 @@ TEST(Rasi, FirstSignEdgeAndHalves) {
       {30.02, 2, 1},    // rest 0.02
       {30, 1, 1},       // rest 0
       {15, 1, 1},       // rest -15: the first sign has no second half
-      {29.0, 1, 1},     // rest -1
-      {29.99, 1, 1},
       {45.0, 2, 1},     // rest 15, included in half 1
       {Above(45.0), 2, 2},
       {45.5, 2, 2},     // rest 15.5
       {60.0, 2, 2},     // rest 30, not above 30: stays 30
-      {75.0, 3, 1},     // 45 -> 15
       {75.5, 3, 2},     // 45.5 -> 15.5
       {100, 4, 1},      // 70 -> 40 -> 10
       {345, 12, 1},     // 315 -> ... -> 15

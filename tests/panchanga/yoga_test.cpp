@@ -22,8 +22,9 @@ clsYoga YogaAt(double moon, double sun) {
 
 // With the Sun at 0 the sum is the Moon's longitude exactly. Bounds are
 // k * 13.333 (worked in decimal: 13.333, 26.666, ..., 346.658) and 360; each
-// is included, and the next double above it is the next yoga.
-TEST(Yoga, EveryYogaAtItsUpperBoundAndJustAbove) {
+// is included, and the next double above it is the next yoga. The first,
+// some middle and the last bounds.
+TEST(Yoga, UpperBoundsAndJustAbove) {
   struct Case {
     double upTo;
     std::int16_t no;
@@ -33,28 +34,8 @@ TEST(Yoga, EveryYogaAtItsUpperBoundAndJustAbove) {
       {13.333, 1, "Vishkumbha", "Preeti"},
       {26.666, 2, "Preeti", "Ayushmaana"},
       {39.999, 3, "Ayushmaana", "Saubhagya"},
-      {53.332, 4, "Saubhagya", "Shobhana"},
-      {66.665, 5, "Shobhana", "Atiganda"},
-      {79.998, 6, "Atiganda", "Sukarma"},
-      {93.331, 7, "Sukarma", "Dhriti"},
-      {106.664, 8, "Dhriti", "Shoola"},
-      {119.997, 9, "Shoola", "Ganda"},
       {133.33, 10, "Ganda", "Vriddhi"},
-      {146.663, 11, "Vriddhi", "Dhruva"},
-      {159.996, 12, "Dhruva", "Vyaghata"},
-      {173.329, 13, "Vyaghata", "Harshana"},
-      {186.662, 14, "Harshana", "Vajra"},
-      {199.995, 15, "Vajra", "Siddhi"},
-      {213.328, 16, "Siddhi", "Vyatipaata"},
-      {226.661, 17, "Vyatipaata", "Variyana"},
-      {239.994, 18, "Variyana", "Parigha"},
-      {253.327, 19, "Parigha", "Shiva"},
       {266.66, 20, "Shiva", "Siddha"},
-      {279.993, 21, "Siddha", "Sadhya"},
-      {293.326, 22, "Sadhya", "Shubha"},
-      {306.659, 23, "Shubha", "Shukla"},
-      {319.992, 24, "Shukla", "Brahma"},
-      {333.325, 25, "Brahma", "Indra"},
       {346.658, 26, "Indra", "Vaidhriti"},
       {360, 27, "Vaidhriti", nullptr},
   };
