@@ -12,31 +12,19 @@
 #include <vector>
 
 #include "common/calculation_error.h"
+#include "support/sample_chart.h"
 
 namespace kelvaro {
 namespace {
 
-constexpr std::array<const char*, 12> kShort = {"Asc", "Sun", "Moo", "Mar", "Mer", "Jup",
-                                                "Ven", "Sat", "Rah", "Ket", "Gul", "Maa"};
-constexpr std::array<const char*, 10> kLong = {"Asc",     "Sun",     "Moon",   "Mars", "Mercury",
-                                               "Venus",   "Jupiter", "Saturn", "Rahu", "Ketu"};
-constexpr std::array<const char*, 12> kRasi = {"Aries", "Taurus",     "Gemini",   "Cancer",
-                                               "Leo",   "Virgo",      "Libra",    "Scorpio",
-                                               "Sagitarius", "Capricon", "Aquarius", "Pisces"};
-
 // Lagna, midheaven and the nine planets Sun to Ketu.
 ChartData ChartWith(double lagna, double midHeaven, const std::array<double, 9>& planets,
                     const std::string& system = "Equal") {
-  ChartData c;
+  ChartData c = testing::EnglishNames();
   c.bhavaSystem = system;
   c.longitude[0] = lagna;
   for (size_t i = 0; i < 9; ++i) c.longitude[i + 1] = planets[i];
   c.midHeaven = midHeaven;
-  for (size_t i = 0; i < 12; ++i) {
-    c.ShortNames[i] = kShort[i];
-    c.RasiNames[i] = kRasi[i];
-  }
-  for (size_t i = 0; i < 10; ++i) c.LongNames[i] = kLong[i];
   return c;
 }
 

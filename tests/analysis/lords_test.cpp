@@ -5,19 +5,13 @@
 #include <string>
 
 #include "common/calculation_error.h"
+#include "support/sample_chart.h"
 
 namespace kelvaro {
 namespace {
 
 // The Sanskrit tables, so that a local name differs from its English lord.
-ChartData SanskritChart() {
-  ChartData c;
-  c.language = "Sanskrit";
-  c.LongNames = {"Lagna", "Surya", "Chandra", "Kuja", "Budha", "Sukra", "Guru", "Sani", "Rahu", "Ketu"};
-  c.RasiNames = {"Mesha", "Rishaba", "Mithuna", "Kataka", "Simha",  "Kanya",
-                 "Tula",  "Vrischika", "Dhanus", "Makara", "Kumbha", "Meena"};
-  return c;
-}
+using testing::SanskritNames;
 
 TEST(Lords, DegreesInRasiSubtractsThirtyWhileThirtyOrMore) {
   struct Case {
@@ -37,9 +31,7 @@ TEST(Lords, RasiLordByRasiAndByNavamsa) {
   };
   const Case cases[] = {
       {0, "Rasi", "Mars"},        {29.99, "Rasi", "Mars"},     {30, "Rasi", "Venus"},
-      {75, "Rasi", "Mercury"},    {100, "Rasi", "Moon"},       {125, "Rasi", "Sun"},
-      {155, "Rasi", "Mercury"},   {185, "Rasi", "Venus"},      {215, "Rasi", "Mars"},
-      {245, "Rasi", "Jupiter"},   {275, "Rasi", "Saturn"},     {305, "Rasi", "Saturn"},
+      {100, "Rasi", "Moon"},      {125, "Rasi", "Sun"},        {305, "Rasi", "Saturn"},
       {359.9, "Rasi", "Jupiter"},
       // Navamsa rasis of 3.33333333333333 through the whole zodiac.
       {0, "Navamsa", "Mars"},     {3.4, "Navamsa", "Venus"},   {36.5, "Navamsa", "Saturn"},
@@ -62,16 +54,14 @@ TEST(Lords, StarLordCountsAbhijitWithTheSun) {
     const char* lord;
   };
   const Case cases[] = {
-      {1, "Kethu"},    {2, "Venus"},   {3, "Sun"},    {4, "Moon"},     {5, "Mars"},   {6, "Rahu"},
-      {7, "Jupiter"},  {8, "Saturn"},  {9, "Mercury"}, {10, "Kethu"},  {18, "Mercury"}, {19, "Kethu"},
-      {20, "Venus"},   {21, "Sun"},    {22, "Sun"},   {23, "Moon"},    {24, "Mars"},  {25, "Rahu"},
-      {26, "Jupiter"}, {27, "Saturn"}, {28, "Mercury"}, {0, ""},       {29, ""},
+      {1, "Kethu"},  {2, "Venus"},  {9, "Mercury"}, {10, "Kethu"}, {21, "Sun"},
+      {22, "Sun"},   {23, "Moon"},  {28, "Mercury"}, {0, ""},       {29, ""},
   };
   for (const Case& c : cases) EXPECT_EQ(StarLordOf(c.star), c.lord) << c.star;
 }
 
 TEST(Lords, LocalisedNameFollowsLongNamesWithVenusBeforeJupiter) {
-  const ChartData chart = SanskritChart();
+  const ChartData chart = SanskritNames();
   struct Case {
     const char* english;
     const char* local;
@@ -86,7 +76,7 @@ TEST(Lords, LocalisedNameFollowsLongNamesWithVenusBeforeJupiter) {
 }
 
 TEST(Lords, RasiNameOfOneToTwelve) {
-  const ChartData chart = SanskritChart();
+  const ChartData chart = SanskritNames();
   EXPECT_EQ(RasiNameOf(chart, 1), "Mesha");
   EXPECT_EQ(RasiNameOf(chart, 10), "Makara");
   EXPECT_EQ(RasiNameOf(chart, 12), "Meena");
