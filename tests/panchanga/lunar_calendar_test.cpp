@@ -168,16 +168,12 @@ TEST(LunarCalendar, DatesAroundFullAndNewMoonsAndAdhikaMonths) {
        "the almanac's regular Vaisakha"},
       {At(2018, 5, 25, 10, 0), "TP", "Shudha  /  Vaisakha  /  Vilambi", "Shudha  /  Vaisakha  /  Vilambi",
        "the almanac's Adhika Jyeshtha"},
-      {At(2018, 6, 25, 10, 0), "TP", "Shudha  /  Jyeshtha  /  Vilambi", "Shudha  /  Jyeshtha  /  Vilambi",
-       "the almanac's regular Jyeshtha: agrees"},
 
       // 2020, Adhika Ashvina in the almanacs (18 September to 16 October),
       // and here too. Close: the hour before the tithi of 16 September began
       // (19:55, elongation 347.98) has the Sun 0.03 degree into Virgo.
       {At(2020, 9, 25, 10, 0), "TP", "Shudha  /  Bhadrapada  /  Sharvari", "Adhika  /  Asvina  /  Sharvari",
        "the extra Ashvina"},
-      {At(2020, 10, 25, 10, 0), "TP", "Shudha  /  Asvina  /  Sharvari", "Shudha  /  Asvina  /  Sharvari",
-       "the regular Ashvina"},
 
       // 2023, Adhika Sravana in the almanacs (18 July to 16 August). The
       // conjunction of 18 July had the Sun just in Cancer, but its tithi
@@ -185,8 +181,6 @@ TEST(LunarCalendar, DatesAroundFullAndNewMoonsAndAdhikaMonths) {
       // Gemini (17 June, 16 July) and the extra month is the one before.
       {At(2023, 7, 25, 10, 0), "TP", "Shudha  /  Ashadha  /  Shobhakrit", "Shudha  /  Ashadha  /  Shobhakrit",
        "the almanac's Adhika Sravana"},
-      {At(2023, 8, 25, 10, 0), "TP", "Shudha  /  Sravana  /  Shobhakrit", "Shudha  /  Sravana  /  Shobhakrit",
-       "the almanac's regular Sravana: agrees"},
 
       // 2019: full moon tithis began 16 June 14:xx (Sun 60.8) and 16 July
       // 01:xx (Sun 88.9), both in Gemini: a Krishnadi Adhika Ashadha that no
