@@ -120,6 +120,8 @@ TEST_F(StoreCommands, ChartsListShowDelete) {
   EXPECT_EQ(RunTool({"charts", "list", "--database", Db()}).out, ChartLines({{asha, "Asha~14-Jul-1965"}}));
 }
 
+// The messages and their order are worked in the store's preference tests;
+// here each field's name before its message, and the command's own refusals.
 TEST_F(StoreCommands, PrefsSetValidatesWithTheSystemMessages) {
   ASSERT_EQ(RunTool({"prefs", "show", "--database", Db()}).status, kExitOk);
   const std::string before = FileBytes(Db());
@@ -129,11 +131,7 @@ TEST_F(StoreCommands, PrefsSetValidatesWithTheSystemMessages) {
   } cases[] = {
       {{"ayanamsa", "Custom", "zero-year", ""}, "zero-year: Enter Zero Year"},
       {{"ayanamsa", "Custom", "progression", " "}, "progression: Enter Progression"},
-      {{"ayanamsa", "Custom", "zero-year", "abc", "progression", "x"}, "zero-year: Enter Year in Number"},
       {{"ayanamsa", "Custom", "progression", "x"}, "progression: Enter Progression in Number "},
-      {{"ayanamsa", "Custom", "zero-year", "2004"}, "zero-year: Enter Zero Year Less than current Year "},
-      {{"ayanamsa", "Custom", "zero-year", "-5"}, "zero-year: Enter Positive Zero Year "},
-      {{"ayanamsa", "Custom", "progression", "-0.5"}, "progression: Enter Positive Progression "},
       {{"ayanamsa", "Custom", "progression", "1000.5"}, "progression: Enter Progression less than 1000"},
       {{"ayanamsa", "Fagan"}, "ayanamsa must be one of Lahiri, Raman, KP, Sayana, Custom"},
       {{"colour", "blue"}, "unknown preference \"colour\""},
