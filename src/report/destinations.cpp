@@ -1,0 +1,93 @@
+#include "report/destinations.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+
+namespace kelvaro {
+
+namespace {
+
+constexpr const char* kPrintEnd = "\r\n";
+// Pieces 0 to 5 are the five fixed pages and the bhukti page.
+constexpr size_t kLastPieceWithoutAntra = 5;
+
+[[noreturn]] void Fail(const std::filesystem::path& path, int error) {
+  throw ReportWriteError("Cannot write the report to \"" + path.string() + "\": " + std::strerror(error));
+}
+
+// A temporary name beside the target, unique within the process and among
+// processes by the process id.
+std::filesystem::path TemporaryBeside(const std::filesystem::path& path) {
+  static std::atomic<unsigned> counter{0};
+  std::filesystem::path tmp = path;
+  tmp += ".tmp" + std::to_string(::getpid()) + "-" + std::to_string(counter++);
+  return tmp;
+}
+
+void WriteAll(int fd, std::string_view data, const std::filesystem::path& path, const std::filesystem::path& tmp) {
+  while (!data.empty()) {
+    const ssize_t n = ::write(fd, data.data(), data.size());
+    if (n < 0 && errno == EINTR) continue;
+    if (n <= 0) {
+      const int error = n < 0 ? errno : EIO;
+      ::close(fd);
+      ::unlink(tmp.c_str());
+      Fail(path, error);
+    }
+    data.remove_prefix(static_cast<size_t>(n));
+  }
+}
+
+void WriteAtomically(const std::filesystem::path& path, std::initializer_list<std::string_view> parts) {
+  const std::filesystem::path tmp = TemporaryBeside(path);
+  const int fd = ::open(tmp.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
+  if (fd < 0) Fail(path, errno);
+  for (std::string_view part : parts) WriteAll(fd, part, path, tmp);
+  if (::fsync(fd) != 0) {
+    const int error = errno;
+    ::close(fd);
+    ::unlink(tmp.c_str());
+    Fail(path, error);
+  }
+  if (::close(fd) != 0) {
+    const int error = errno;
+    ::unlink(tmp.c_str());
+    Fail(path, error);
+  }
+  if (std::rename(tmp.c_str(), path.c_str()) != 0) {
+    const int error = errno;
+    ::unlink(tmp.c_str());
+    Fail(path, error);
+  }
+}
+
+}  // namespace
+
+void WriteTextReport(const std::filesystem::path& path, std::string_view text) {
+  WriteAtomically(path, {text, kPrintEnd});
+}
+
+void WriteHtmlReport(const std::filesystem::path& path, std::string_view text) {
+  WriteAtomically(path, {"<pre>", kPrintEnd, text, kPrintEnd, "</pre>", kPrintEnd});
+}
+
+std::vector<std::string> PrintPieces(std::string_view text, bool withoutAntra) {
+  std::vector<std::string> pieces;
+  size_t index = 0;
+  for (;;) {
+    const size_t feed = text.find('\f');
+    const std::string_view piece = text.substr(0, feed);
+    if (!(withoutAntra && index > kLastPieceWithoutAntra)) pieces.emplace_back(piece);
+    if (feed == std::string_view::npos) break;
+    text.remove_prefix(feed + 1);
+    ++index;
+  }
+  return pieces;
+}
+
+}  // namespace kelvaro

@@ -1,0 +1,171 @@
+#include "report/destinations.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <csignal>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <sstream>
+#include <string>
+
+namespace kelvaro {
+namespace {
+
+namespace fs = std::filesystem;
+
+// A fresh folder in the temporary folder, removed at the end.
+class ReportFolder : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    folder_ = fs::temp_directory_path() / ("kelvaro-report-" + std::to_string(std::random_device()()));
+    fs::create_directories(folder_);
+  }
+  void TearDown() override {
+    std::error_code ignored;
+    fs::remove_all(folder_, ignored);
+  }
+  static std::string Read(const fs::path& path) {
+    std::ifstream in(path, std::ios::binary);
+    std::ostringstream out;
+    out << in.rdbuf();
+    return out.str();
+  }
+  static void Put(const fs::path& path, const std::string& text) {
+    std::ofstream(path, std::ios::binary) << text;
+  }
+  // Names in the folder, so that no temporary file is left behind.
+  size_t Entries() const {
+    size_t n = 0;
+    for ([[maybe_unused]] const auto& e : fs::directory_iterator(folder_)) ++n;
+    return n;
+  }
+  fs::path folder_;
+};
+
+const std::string kReport = "Page one\r\n<b>&</b>\r\n\fPage two\r\n";
+
+TEST(ReportDestinations, DialogFiltersAsTheDesktopShowsThem) {
+  EXPECT_STREQ(kTextFileDestination.filter, "Text Files | *.Txt");
+  EXPECT_STREQ(kHtmlFileDestination.filter, "HTML Files | *.HTML");
+  EXPECT_STREQ(kTextFileDestination.caption, "Generate Horoscope as a Text file");
+  EXPECT_STREQ(kHtmlFileDestination.caption, "Generate Horoscope as a HTML file");
+}
+
+TEST_F(ReportFolder, TextFileIsTheTextAsOnePrint) {
+  const fs::path file = folder_ / "chart.Txt";
+  WriteTextReport(file, kReport);
+  EXPECT_EQ(Read(file), "Page one\r\n<b>&</b>\r\n\fPage two\r\n\r\n");
+  EXPECT_EQ(Entries(), 1u);
+}
+
+TEST_F(ReportFolder, HtmlFileWrapsTheUnescapedTextInPre) {
+  const fs::path file = folder_ / "chart.HTML";
+  WriteHtmlReport(file, kReport);
+  EXPECT_EQ(Read(file), "<pre>\r\nPage one\r\n<b>&</b>\r\n\fPage two\r\n\r\n</pre>\r\n");
+  EXPECT_EQ(Entries(), 1u);
+}
+
+TEST_F(ReportFolder, WritingAgainReplacesTheEarlierFile) {
+  const fs::path file = folder_ / "chart.Txt";
+  Put(file, std::string(5000, 'x'));
+  WriteTextReport(file, "short");
+  EXPECT_EQ(Read(file), "short\r\n");
+  EXPECT_EQ(Entries(), 1u);
+}
+
+TEST_F(ReportFolder, MissingFolderRaisesAndNamesTheFile) {
+  const fs::path file = folder_ / "no such folder" / "chart.Txt";
+  try {
+    WriteTextReport(file, kReport);
+    FAIL() << "no error";
+  } catch (const ReportWriteError& e) {
+    const std::string message = e.what();
+    EXPECT_NE(message.find(file.string()), std::string::npos) << message;
+    EXPECT_NE(message.find("No such file or directory"), std::string::npos) << message;
+  }
+  EXPECT_FALSE(fs::exists(file));
+  EXPECT_EQ(Entries(), 0u);
+}
+
+TEST_F(ReportFolder, DirectoryInThePlaceOfTheFileSurvives) {
+  const fs::path file = folder_ / "chart.HTML";
+  fs::create_directories(file);
+  Put(file / "kept.txt", "kept");
+  try {
+    WriteHtmlReport(file, kReport);
+    FAIL() << "no error";
+  } catch (const ReportWriteError& e) {
+    const std::string message = e.what();
+    EXPECT_NE(message.find(file.string()), std::string::npos) << message;
+    EXPECT_NE(message.find("Is a directory"), std::string::npos) << message;
+  }
+  EXPECT_TRUE(fs::is_directory(file));
+  EXPECT_EQ(Read(file / "kept.txt"), "kept");
+  EXPECT_EQ(Entries(), 1u);
+}
+
+// A write that fails half way, as on a full disk: the file size limit of the
+// process stops it (root passes permission bits, not this limit).
+TEST_F(ReportFolder, FailedWriteLeavesTheEarlierFileIntact) {
+  const fs::path file = folder_ / "chart.Txt";
+  const std::string earlier = "the earlier report\r\n";
+  Put(file, earlier);
+
+  rlimit old{};
+  ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &old), 0);
+  const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
+  rlimit small = old;
+  small.rlim_cur = 4096;
+  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+  std::string message;
+  try {
+    WriteTextReport(file, std::string(100000, 'r'));
+  } catch (const ReportWriteError& e) {
+    message = e.what();
+  }
+  setrlimit(RLIMIT_FSIZE, &old);
+  std::signal(SIGXFSZ, oldHandler);
+
+  EXPECT_NE(message.find(file.string()), std::string::npos) << message;
+  EXPECT_NE(message.find("File too large"), std::string::npos) << message;
+  EXPECT_EQ(Read(file), earlier);
+  EXPECT_EQ(Entries(), 1u);
+}
+
+// ---- Direct printing -------------------------------------------------------------
+
+std::string Pages(int count) {
+  std::string text;
+  for (int i = 0; i < count; ++i) {
+    if (i > 0) text += '\f';
+    text += "p" + std::to_string(i) + "\r\n";
+  }
+  return text;
+}
+
+TEST(ReportPrintPieces, SplitsAtEveryFormFeed) {
+  const std::vector<std::string> pieces = PrintPieces(Pages(8), false);
+  ASSERT_EQ(pieces.size(), 8u);
+  EXPECT_EQ(pieces.front(), "p0\r\n");
+  EXPECT_EQ(pieces.back(), "p7\r\n");
+}
+
+TEST(ReportPrintPieces, WithoutAntraKeepsIndicesZeroToFive) {
+  const std::vector<std::string> pieces = PrintPieces(Pages(15), true);
+  ASSERT_EQ(pieces.size(), 6u);
+  EXPECT_EQ(pieces[5], "p5\r\n");
+  // A report of six pages or fewer loses nothing.
+  EXPECT_EQ(PrintPieces(Pages(6), true).size(), 6u);
+  EXPECT_EQ(PrintPieces(Pages(3), true).size(), 3u);
+}
+
+TEST(ReportPrintPieces, EdgePieces) {
+  EXPECT_EQ(PrintPieces("", false), std::vector<std::string>{""});
+  EXPECT_EQ(PrintPieces("\f", false), (std::vector<std::string>{"", ""}));
+  EXPECT_EQ(PrintPieces("a\fb\f", true), (std::vector<std::string>{"a", "b", ""}));
+}
+
+}  // namespace
+}  // namespace kelvaro

@@ -1,0 +1,374 @@
+#include "report/report_pages.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "report_models.h"
+
+namespace kelvaro {
+namespace {
+
+using testing::FillDasaModel;
+using testing::ReportModels;
+
+std::vector<std::string> SplitPages(const std::string& report) {
+  std::vector<std::string> pages;
+  size_t from = 0;
+  for (;;) {
+    const size_t feed = report.find('\f', from);
+    pages.push_back(report.substr(from, feed == std::string::npos ? std::string::npos : feed - from));
+    if (feed == std::string::npos) return pages;
+    from = feed + 1;
+  }
+}
+
+// The lines of a page; every line must end with CR LF.
+std::vector<std::string> Lines(const std::string& page) {
+  std::vector<std::string> lines;
+  size_t from = 0;
+  while (from < page.size()) {
+    const size_t end = page.find("\r\n", from);
+    EXPECT_NE(end, std::string::npos) << "a line without CR LF: " << page.substr(from);
+    if (end == std::string::npos) break;
+    lines.push_back(page.substr(from, end - from));
+    from = end + 2;
+  }
+  return lines;
+}
+
+std::string Blanks(int n) { return std::string(static_cast<size_t>(n), ' '); }
+
+const std::string kUnderscores(70, '_');
+
+// ---- Title page --------------------------------------------------------------
+
+const std::vector<std::string> kTitleTop = {
+    "",
+    "",
+    "",
+    "                         AUM GANESHAYA NAMAH",
+    "           JANANI JANMA SOUKHYANAM VARDHINEE KULA SAMPADAM",
+    "           PADAVI POORVA PUNYANAM  LIKHYATE  JANMA PATRIKA",
+    "",
+    "",
+    "",
+    "                                      www.kelvaro.org - Horoscope",
+    kUnderscores,
+    "",
+    "",
+    "",
+    "     Name                  : Velnesh",
+    "     Sex                   : Male",
+    "     Date of Birth         : 14 / 7 / 1965",
+    "     Time of Birth         : 2 : 15  PM",
+    "     LMT                   : 14:07:00",
+    "     GMT                   : 08:45:00",
+    "     Time Zone             : 5.5 E",
+    "     Ishta Ghati           : 19.15",
+    "     Birth County          : India",
+    "     Birth City            : Hyderabad (A.P)",
+    "     Latitude              : 17 20 N",
+    "     Longitude             : 78 30 E",
+    "     Sun Rise              : 05:50:12",
+    "     Sun Set               : 18:51:40",
+    "     Ayanamsa              : 23.21.36",
+    "",
+    "",
+    "",
+    "     Vedic Day             : Wednesday",
+    "     Gregorian Day         : Wednesday",
+    "     Solar Date            : Mithuna 30",
+    "     Lunar Sukladi Date    : Ashada Sukla 16",
+    "     Lunar Krishnadi Date  : Shravana Krishna 1",
+    "     Kaliyuga Year         : Vishvavasu",
+    "     Ayana                 : Dakshinayana",
+    "",
+    "",
+    "",
+    "     Janma Lagna           : Libra",
+    "     Janma Rasi            : Capricon",
+    "     Star                  : Uttarashada",
+    "     Tithi                 : Pournami",
+    "     Paksha                : Sukla",
+    "     Yogam                 : Vaidhriti",
+    "     Karnam                : Bava",
+    "",
+    "",
+    "",
+    kUnderscores,
+};
+
+TEST(ReportTitlePage, EmptyLetterheadEndsAtTheSecondRule) {
+  ReportModels m;
+  FillDasaModel(m.dasa, 3);
+  const std::vector<std::string> pages = SplitPages(ComposeReport(m.Input()));
+  EXPECT_EQ(Lines(pages[0]), kTitleTop);
+}
+
+TEST(ReportTitlePage, OwnerBlockJoinsTheTrimmedFields) {
+  ReportModels m;
+  FillDasaModel(m.dasa, 3);
+  ReportInput input = m.Input();
+  input.owner = {" Sri Jyotisha ", "12 Temple Road", "Ward 4", "Hyderabad", "India ", "500001", " 040-123 ",
+                 "mail@example.org"};
+  std::vector<std::string> expected = kTitleTop;
+  expected.push_back("");
+  expected.push_back("     Sri Jyotisha");
+  expected.push_back("     12 Temple Road, Ward 4, Hyderabad, India - 500001, Phone : 040-123");
+  expected.push_back("     E-Mail : mail@example.org");
+  EXPECT_EQ(Lines(SplitPages(ComposeReport(input))[0]), expected);
+}
+
+TEST(ReportTitlePage, NameAloneGivesOneOwnerLine) {
+  ReportModels m;
+  FillDasaModel(m.dasa, 3);
+  ReportInput input = m.Input();
+  input.owner.name = "Kelvaro Technologies Pvt Ltd";
+  std::vector<std::string> expected = kTitleTop;
+  expected.push_back("");
+  expected.push_back("     Kelvaro Technologies Pvt Ltd");
+  EXPECT_EQ(Lines(SplitPages(ComposeReport(input))[0]), expected);
+  // Only an e-mail: no name line and no address line.
+  input.owner = {"", " ", "", "", "", "", "", "a@b.org"};
+  expected.pop_back();
+  expected.push_back("     E-Mail : a@b.org");
+  EXPECT_EQ(Lines(SplitPages(ComposeReport(input))[0]), expected);
+}
+
+TEST(ReportTitlePage, LabelsInTheirOrderWithTheReportsSpelling) {
+  const TitlePageValues values = ReportModels::Title();
+  const auto fields = TitlePageFields(values);
+  EXPECT_STREQ(fields[0].first, "Name");
+  EXPECT_STREQ(fields[8].first, "Birth County");
+  EXPECT_EQ(*fields[8].second, "India");
+  EXPECT_STREQ(fields[28].first, "Karnam");
+  EXPECT_EQ(*fields[28].second, "Bava");
+}
+
+// ---- Chart page --------------------------------------------------------------
+
+// A South chart laid out from its line table: margin 10, rows of 49 "*",
+// cells of 11 in three text lines and a blank one, the title in the centre.
+TEST(ReportChartPage, SouthRasiAndNavamsaUnderTheHeader) {
+  ReportModels m;
+  FillDasaModel(m.dasa, 3);
+  m.cells.rasi.south.SetCaption(0, "Sun  12.5\r\nMoo  3.40");
+  m.cells.rasi.south.SetCaption(6, "Asc  25.14");
+  m.cells.rasi.south.SetCaption(11, "Jup  1.2\r\nRah  2.3\r\nKet  4.5\r\nSat  6.7");
+  m.cells.navamsa.south.SetCaption(4, "Mar  ");
+
+  const std::string M = Blanks(10);
+  const std::string stars = M + std::string(49, '*');
+  const std::string empty4 = M + "*           *           *           *           *";
+  const std::string emptyMid = M + "*           *                       *           *";
+  const std::string titleStars = std::string(11, '*');
+  std::vector<std::string> expected = {
+      Blanks(38) + "www.kelvaro.org - Horoscope  Page 2",
+      kUnderscores,
+      "",
+      // Rasi
+      stars,
+      M + "*Sun Moo    *           *           *           *",
+      empty4,
+      empty4,
+      empty4,
+      stars,
+      emptyMid,
+      emptyMid,
+      emptyMid,
+      emptyMid,
+      M + "*" + titleStars + "*" + Blanks(10) + "Rasi" + Blanks(9) + "*" + titleStars + "*",
+      M + "*Asc        *                       *           *",
+      emptyMid,
+      emptyMid,
+      emptyMid,
+      stars,
+      M + "*           *           *           *Jup Rah Ket*",
+      M + "*           *           *           *Sat        *",
+      empty4,
+      empty4,
+      stars,
+      "",
+      "",
+      // Navamsa: 7 letters, left pad 12 - 4 (3.5 rounded to even).
+      stars,
+      empty4,
+      empty4,
+      empty4,
+      empty4,
+      stars,
+      M + "*Mar        *                       *           *",
+      emptyMid,
+      emptyMid,
+      emptyMid,
+      M + "*" + titleStars + "*" + Blanks(8) + "Navamsa" + Blanks(8) + "*" + titleStars + "*",
+      emptyMid,
+      emptyMid,
+      emptyMid,
+      emptyMid,
+      stars,
+      empty4,
+      empty4,
+      empty4,
+      empty4,
+      stars,
+  };
+  EXPECT_EQ(Lines(SplitPages(ComposeReport(m.Input()))[1]), expected);
+}
+
+TEST(ReportChartPage, StyleIsComparedUpperCased) {
+  ReportModels m;
+  FillDasaModel(m.dasa, 3);
+  m.cells.rasi.east.SetCaption(1, "Sun  ");
+  const std::string lower = SplitPages(ComposeReport(m.Input(false, "east")))[1];
+  const std::string proper = SplitPages(ComposeReport(m.Input(false, "East")))[1];
+  EXPECT_EQ(lower, proper);
+  EXPECT_NE(proper.find("* * * * * * * * * * * * * * * * * * * * * *"), std::string::npos);
+  EXPECT_NE(proper.find("Sun"), std::string::npos);
+}
+
+TEST(ReportChartPage, UnknownStyleLeavesOnlyTheHeader) {
+  ReportModels m;
+  FillDasaModel(m.dasa, 3);
+  const std::vector<std::string> lines = Lines(SplitPages(ComposeReport(m.Input(false, "West")))[1]);
+  EXPECT_EQ(lines, (std::vector<std::string>{Blanks(38) + "www.kelvaro.org - Horoscope  Page 2", kUnderscores, "",
+                                              "", ""}));
+}
+
+// ---- Bhava and planet pages -----------------------------------------------------
+
+TEST(ReportBhavaPage, TitleFollowsTheSystem) {
+  ReportModels m;
+  FillDasaModel(m.dasa, 3);
+  const std::string equal = SplitPages(ComposeReport(m.Input(false, "South", "Equal")))[2];
+  const std::string other = SplitPages(ComposeReport(m.Input(false, "South", "Not Equal")))[2];
+  EXPECT_NE(equal.find("\r\nBhava Positions  (Equal Division of Houses From M.C)\r\n"), std::string::npos);
+  EXPECT_NE(other.find("\r\nBhava Positions  (Placidius Semi-Arc System)\r\n"), std::string::npos);
+  EXPECT_EQ(equal.find("Placidius"), std::string::npos);
+}
+
+TEST(ReportPlanetPage, RowLeavesOutTheRasiLordAndFitsItsRule) {
+  ReportModels m;
+  FillDasaModel(m.dasa, 3);
+  m.planets.mshNirayana.Resize(11, 10);
+  const std::vector<std::string> sat = {"Sat",    "23.36.33 (R)", "Aquarius", "RASILORD", "P.Bhadrapad",
+                                        "2",      "Jupiter",      "Saturn",   "Puttra",   "Agama"};
+  for (int c = 0; c < 10; ++c) m.planets.mshNirayana.SetText(8, c, sat[static_cast<size_t>(c)]);
+  const std::vector<std::string> lines = Lines(SplitPages(ComposeReport(m.Input()))[3]);
+  ASSERT_GT(lines.size(), 8u);
+  EXPECT_EQ(lines[3], "Planet Positions");
+  const std::string rule(81, '-');
+  EXPECT_EQ(lines[4], rule);
+  EXPECT_EQ(lines[5], "Planet Longitude    Rasi       Star        Pada Star    Sub     Jaimini Sayanadi");
+  EXPECT_EQ(lines[6], "                                                Lord    Lord    Karaka  Avastha");
+  EXPECT_EQ(lines[7], rule);
+  EXPECT_EQ(lines[8 + 7], "Sat    23.36.33 (R) Aquarius   P.Bhadrapad 2    Jupiter Saturn  Puttra  Agama");
+  EXPECT_EQ(lines[8 + 10], rule);
+  for (const std::string& line : lines) EXPECT_LE(line.size(), 81u) << line;
+}
+
+// ---- Page count, separators, page numbers ------------------------------------------
+
+TEST(ReportPages, SixPagesWithoutAntraFifteenWithIt) {
+  ReportModels m;
+  FillDasaModel(m.dasa, 3);
+  const std::string without = ComposeReport(m.Input(false));
+  const std::string with = ComposeReport(m.Input(true));
+  EXPECT_EQ(SplitPages(without).size(), 6u);
+  // 81 antra blocks of eleven lines, five to a column, ten to a page.
+  EXPECT_EQ(SplitPages(with).size(), 15u);
+  // The antra pages come after everything else, which stays the same.
+  EXPECT_EQ(with.substr(0, without.size()), without);
+  EXPECT_EQ(with[without.size()], '\f');
+}
+
+TEST(ReportPages, FormFeedsSeparateAndEveryLineEndsWithCrLf) {
+  ReportModels m;
+  FillDasaModel(m.dasa, 9);
+  const std::string report = ComposeReport(m.Input(true));
+  EXPECT_NE(report.front(), '\f');
+  EXPECT_NE(report.back(), '\f');
+  for (size_t i = 0; i < report.size(); ++i) {
+    if (report[i] == '\n') {
+      ASSERT_TRUE(i > 0 && report[i - 1] == '\r') << "bare LF at " << i;
+    }
+    if (report[i] == '\r') {
+      ASSERT_TRUE(i + 1 < report.size() && report[i + 1] == '\n') << "bare CR at " << i;
+    }
+    if (report[i] == '\f') {
+      ASSERT_TRUE(report.compare(i - 2, 2, "\r\n") == 0) << "page not ended by CR LF at " << i;
+    }
+  }
+  for (const std::string& page : SplitPages(report)) {
+    ASSERT_GE(page.size(), 2u);
+    EXPECT_EQ(page.substr(page.size() - 2), "\r\n");
+  }
+}
+
+TEST(ReportPages, HeadersNumberEveryPageFromTwoOn) {
+  ReportModels m;
+  FillDasaModel(m.dasa, 3);
+  const std::vector<std::string> pages = SplitPages(ComposeReport(m.Input(true)));
+  for (size_t i = 1; i < pages.size(); ++i) {
+    const std::vector<std::string> lines = Lines(pages[i]);
+    ASSERT_GE(lines.size(), 2u);
+    EXPECT_EQ(lines[0], Blanks(38) + "www.kelvaro.org - Horoscope  Page " + std::to_string(i + 1));
+    EXPECT_EQ(lines[1], kUnderscores);
+  }
+}
+
+// ---- Bhukti and antra pages ----------------------------------------------------
+
+TEST(ReportBhuktiPage, TwoColumnsOfDasaBlocks) {
+  ReportModels m;
+  FillDasaModel(m.dasa, 3);
+  const std::vector<std::string> lines = Lines(SplitPages(ComposeReport(m.Input()))[5]);
+  ASSERT_GT(lines.size(), 12u);
+  EXPECT_EQ(lines[3], "Bhukti");
+  EXPECT_EQ(lines[4], "======");
+  EXPECT_EQ(lines[6], "Dasa");
+  EXPECT_EQ(lines[7], "Bukti       Start        End            Bukti       Start        End");
+  // Left: Sun's three last sub-periods, then four whole dasas (5 + 44 lines);
+  // Saturn's block would pass 55 lines and opens the right column.
+  EXPECT_EQ(lines[9], "Sun - Bhukti                            Saturn - Bhukti");
+  EXPECT_EQ(lines[10], "Mercury  => b0s          b0e            Saturn   => b39s         b39e");
+  // Kethu of the lists shows as the dasa grid names it.
+  EXPECT_EQ(lines[11].substr(0, 28), "Ketu     => b1s          b1e");
+  EXPECT_EQ(lines.size(), 9u + 49u);
+  for (const std::string& line : lines) EXPECT_LE(line.size(), 76u) << line;
+}
+
+TEST(ReportBhuktiPage, AWholeFirstDasaStillFitsOnePage) {
+  ReportModels m;
+  FillDasaModel(m.dasa, 9);
+  const std::vector<std::string> pages = SplitPages(ComposeReport(m.Input()));
+  ASSERT_EQ(pages.size(), 6u);
+  EXPECT_NE(pages[5].find("Venus - Bhukti"), std::string::npos);
+}
+
+TEST(ReportAntraPage, BlocksNameDasaAndBhuktiAndKeepTheirSpelling) {
+  ReportModels m;
+  FillDasaModel(m.dasa, 3);
+  const std::vector<std::string> pages = SplitPages(ComposeReport(m.Input(true)));
+  const std::vector<std::string> lines = Lines(pages[6]);
+  ASSERT_GT(lines.size(), 12u);
+  EXPECT_EQ(lines[3], "Antra");
+  EXPECT_EQ(lines[4], "=====");
+  EXPECT_EQ(lines[6], "Bhukthi");
+  EXPECT_EQ(lines[7], "Antra       Start        End            Antra       Start        End");
+  // Five blocks of eleven lines fill the left column; the sixth sub-period of
+  // the Sun's dasa (Sun, Moon, Mars, Rahu, Jupiter, Saturn) opens the right.
+  EXPECT_EQ(lines[9], "Sun - Sun - Antra                       Sun - Saturn - Antra");
+  EXPECT_EQ(lines[10], "Sun      => s0.0.0       e0.0.0         Saturn   => s0.5.0       e0.5.0");
+  // The last page holds the one block left: Venus dasa, Kethu bhukti.
+  const std::vector<std::string> last = Lines(pages.back());
+  EXPECT_EQ(last[3], "Bhukthi");
+  EXPECT_EQ(last[6], "Venus - Ketu - Antra");
+  EXPECT_EQ(last[7], "Ketu     => s8.8.0       e8.8.0");
+  EXPECT_EQ(last.size(), 6u + 11u);
+}
+
+}  // namespace
+}  // namespace kelvaro
