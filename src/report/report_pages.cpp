@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cctype>
+#include <functional>
+#include <initializer_list>
 #include <map>
 #include <string_view>
 #include <vector>
@@ -20,8 +22,8 @@ constexpr int kHeaderIndent = 38;
 constexpr int kUnderscoreRule = 70;
 constexpr int kTitleBlankLines = 3;
 
-// One column of a table: its width in characters, at least one more than
-// its longest usual text so that neighbours never touch.
+// The widths of a table's columns in characters, each at least one more than
+// its longest usual text; a longer text still keeps one blank after it.
 using Widths = std::vector<int>;
 
 std::string Trim(std::string_view text) {
@@ -62,7 +64,9 @@ class Page {
   void Blank(int count) {
     for (int i = 0; i < count; ++i) Line();
   }
-  void Indented(int blanks, std::string_view text) { Line(std::string(static_cast<size_t>(blanks), ' ') + std::string(text)); }
+  void Indented(int blanks, std::string_view text) {
+    Line(std::string(static_cast<size_t>(blanks), ' ') + std::string(text));
+  }
   void Rule(char c, int width) { Line(std::string(static_cast<size_t>(width), c)); }
   // A table line: each text in its column, trailing blanks dropped.
   void Row(const std::vector<std::string>& texts, const Widths& widths) {
@@ -166,7 +170,9 @@ void BhavaPage(Page& page, const ReportInput& in) {
   page.Row({"", "Longitude", "", "", "", "", "", ""}, widths);
   page.Rule('-', TableWidth(widths));
   const Grid& grid = in.bhava.mshBhavaDetails;
-  for (int row = 1; row <= 12 && row < grid.Rows(); ++row) page.Row(GridRow(grid, row, {0, 1, 2, 3, 4, 5, 6, 7}), widths);
+  for (int row = 1; row <= 12 && row < grid.Rows(); ++row) {
+    page.Row(GridRow(grid, row, {0, 1, 2, 3, 4, 5, 6, 7}), widths);
+  }
 }
 
 // ---- Page 4 ------------------------------------------------------------------

@@ -269,6 +269,86 @@ TEST(ReportPlanetPage, RowLeavesOutTheRasiLordAndFitsItsRule) {
   for (const std::string& line : lines) EXPECT_LE(line.size(), 81u) << line;
 }
 
+// Sets a grid row from texts, column 0 first.
+void SetRow(Grid& grid, int row, const std::vector<std::string>& texts) {
+  for (size_t c = 0; c < texts.size(); ++c) grid.SetText(row, static_cast<int>(c), texts[c]);
+}
+
+TEST(ReportBhavaPage, TableOfTheMidPointsUnderTwoHeadingLines) {
+  ReportModels m;
+  FillDasaModel(m.dasa, 3);
+  m.bhava.mshBhavaDetails.Resize(13, 8);
+  Grid& houses = m.bhava.mshBhavaDetails;
+  SetRow(houses, 3, {"3", "265.43.43", "Sagitarius", "Jupiter", "Poorvashada", "4", "Venus", "Mercury"});
+  // A text longer than its column keeps one blank before the next.
+  SetRow(houses, 4, {"4", "295.58.10", "Capricon", "Saturn", "Uttarabhadrapada", "1", "Mars", "Rahu"});
+  const std::vector<std::string> lines = Lines(SplitPages(ComposeReport(m.Input()))[2]);
+  // Header (3), drawing (21), two blank lines, then the table.
+  ASSERT_EQ(lines.size(), 3u + 21u + 2u + 5u + 12u);
+  const std::string rule(76, '-');
+  EXPECT_EQ(lines[27], rule);
+  EXPECT_EQ(lines[28], "House Mid        Rasi        Rasi Lord Star         Pada Star Lord Sub Lord");
+  EXPECT_EQ(lines[29], "      Longitude");
+  EXPECT_EQ(lines[30], rule);
+  EXPECT_EQ(lines[31], "");  // house 1 has no text in this model
+  EXPECT_EQ(lines[33], "3     265.43.43  Sagitarius  Jupiter   Poorvashada  4    Venus     Mercury");
+  EXPECT_EQ(lines[34], "4     295.58.10  Capricon    Saturn    Uttarabhadrapada 1    Mars      Rahu");
+}
+
+TEST(ReportPlanetPage, AshtakavargaUnderThePlanetTablesShortNames) {
+  ReportModels m;
+  FillDasaModel(m.dasa, 3);
+  m.planets.mshNirayana.Resize(11, 10);
+  const std::vector<std::string> shortNames = {"Asc", "Sun", "Moo", "Mar", "Mer", "Jup", "Ven", "Sat", "Rah", "Ket"};
+  for (int r = 1; r <= 10; ++r) m.planets.mshNirayana.SetText(r, 0, shortNames[static_cast<size_t>(r - 1)]);
+  Grid& av = m.ashtakavarga.mshAshtaVarga;
+  av.Resize(14, 12);
+  SetRow(av, 1, {"Aries", "3", "5", "3", "5", "6", "4", "4", "3", "1", "30", "34"});
+  SetRow(av, 13, {"Total", "48", "49", "39", "54", "56", "52", "39", "49", "43", "337", "429"});
+  const std::vector<std::string> lines = Lines(SplitPages(ComposeReport(m.Input()))[3]);
+  // Header 3, title, rule, two heading lines, rule, ten rows, rule, blank.
+  const size_t at = 3 + 1 + 1 + 2 + 1 + 10 + 1 + 1;
+  ASSERT_EQ(lines.size(), at + 1 + 1 + 2 + 1 + 12 + 1 + 1 + 1);
+  const std::string rule(71, '-');
+  EXPECT_EQ(lines[at], "Ashta Vargas");
+  EXPECT_EQ(lines[at + 1], rule);
+  EXPECT_EQ(lines[at + 2], "Rasi        Sun  Moo  Mar  Mer  Jup  Ven  Sat  Asc  Rah    Total Total");
+  EXPECT_EQ(lines[at + 3], "                                               *    *            With *");
+  EXPECT_EQ(lines[at + 4], rule);
+  EXPECT_EQ(lines[at + 5], "Aries       3    5    3    5    6    4    4    3    1    30      34");
+  EXPECT_EQ(lines[at + 17], rule);
+  EXPECT_EQ(lines[at + 18], "Total       48   49   39   54   56   52   39   49   43   337     429");
+  EXPECT_EQ(lines[at + 19], rule);
+}
+
+TEST(ReportVargaDasaPage, DasaTableWithTheBalanceLine) {
+  ReportModels m;
+  FillDasaModel(m.dasa, 3);
+  SetRow(m.dasa.mshDasa, 2, {"Moon", "01/Aug/1967", "31/Jul/1977", "2"});
+  const std::vector<std::string> lines = Lines(SplitPages(ComposeReport(m.Input()))[4]);
+  // An empty varga grid leaves its heading alone.
+  ASSERT_EQ(lines.size(), 3u + 4u + 1u + 3u + 3u + 9u + 1u);
+  EXPECT_EQ(lines[3], "Vargas");
+  EXPECT_EQ(lines[5], "Chart Type");
+  EXPECT_EQ(lines[8], "Vimshottari Dasa");
+  EXPECT_EQ(lines[9], "================");
+  EXPECT_EQ(lines[10], "Sun Dasa  2 Years 0 Months 17 Days ");
+  const std::string rule(51, '-');
+  EXPECT_EQ(lines[11], rule);
+  EXPECT_EQ(lines[12], "Dasa        Start          End            Start Age");
+  EXPECT_EQ(lines[13], rule);
+  EXPECT_EQ(lines[15], "Moon        01/Aug/1967    31/Jul/1977    2");
+  EXPECT_EQ(lines.back(), rule);
+}
+
+TEST(ReportChartPage, QuoteInACellIsPrintedAsItIs) {
+  ReportModels m;
+  FillDasaModel(m.dasa, 3);
+  m.cells.rasi.south.SetCaption(1, "Su'  1.2");
+  const std::vector<std::string> lines = Lines(SplitPages(ComposeReport(m.Input()))[1]);
+  EXPECT_EQ(lines[4], Blanks(10) + "*           *Su'        *           *           *");
+}
+
 // ---- Page count, separators, page numbers ------------------------------------------
 
 TEST(ReportPages, SixPagesWithoutAntraFifteenWithIt) {
