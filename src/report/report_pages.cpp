@@ -49,6 +49,21 @@ void AppendField(std::string& line, std::string_view text, int width) {
   line.append(static_cast<size_t>(pad > 0 ? pad : 1), ' ');
 }
 
+using Rows = std::vector<std::vector<std::string>>;
+
+// The columns widened where a text needs it: to its length and one blank,
+// the last column to its length, so that a long name (a star with Abhijit
+// in it) moves its whole column instead of the rest of its line.
+Widths Fit(Widths widths, const Rows& rows) {
+  for (const auto& row : rows) {
+    for (size_t i = 0; i < row.size() && i < widths.size(); ++i) {
+      const int need = static_cast<int>(row[i].size()) + (i + 1 < widths.size() ? 1 : 0);
+      widths[i] = std::max(widths[i], need);
+    }
+  }
+  return widths;
+}
+
 int TableWidth(const Widths& widths) {
   int sum = 0;
   for (int w : widths) sum += w;
@@ -164,15 +179,15 @@ void BhavaPage(Page& page, const ReportInput& in) {
   page.Blank(2);
   page.Line(in.bhavaSystem == "Equal" ? "Bhava Positions  (Equal Division of Houses From M.C)"
                                       : "Bhava Positions  (Placidius Semi-Arc System)");
-  const Widths widths = {6, 11, 12, 10, 13, 5, 10, 9};
+  const Grid& grid = in.bhava.mshBhavaDetails;
+  Rows rows;
+  for (int row = 1; row <= 12 && row < grid.Rows(); ++row) rows.push_back(GridRow(grid, row, {0, 1, 2, 3, 4, 5, 6, 7}));
+  const Widths widths = Fit({6, 11, 12, 10, 13, 5, 10, 9}, rows);
   page.Rule('-', TableWidth(widths));
   page.Row({"House", "Mid", "Rasi", "Rasi Lord", "Star", "Pada", "Star Lord", "Sub Lord"}, widths);
   page.Row({"", "Longitude", "", "", "", "", "", ""}, widths);
   page.Rule('-', TableWidth(widths));
-  const Grid& grid = in.bhava.mshBhavaDetails;
-  for (int row = 1; row <= 12 && row < grid.Rows(); ++row) {
-    page.Row(GridRow(grid, row, {0, 1, 2, 3, 4, 5, 6, 7}), widths);
-  }
+  for (const auto& row : rows) page.Row(row, widths);
 }
 
 // ---- Page 4 ------------------------------------------------------------------
@@ -181,14 +196,16 @@ void PlanetPage(Page& page, const ReportInput& in) {
   page.Header(4);
   page.Line("Planet Positions");
   // The grid's rasi lord column is not printed.
-  const Widths widths = {7, 13, 11, 12, 5, 8, 8, 8, 9};
+  const Grid& planets = in.planets.mshNirayana;
+  Rows rows;
+  for (int row = 1; row < planets.Rows(); ++row) rows.push_back(GridRow(planets, row, {0, 1, 2, 4, 5, 6, 7, 8, 9}));
+  const Widths widths = Fit({7, 13, 11, 12, 5, 8, 8, 8, 9}, rows);
   const int width = TableWidth(widths);
   page.Rule('-', width);
   page.Row({"Planet", "Longitude", "Rasi", "Star", "Pada", "Star", "Sub", "Jaimini", "Sayanadi"}, widths);
   page.Row({"", "", "", "", "", "Lord", "Lord", "Karaka", "Avastha"}, widths);
   page.Rule('-', width);
-  const Grid& planets = in.planets.mshNirayana;
-  for (int row = 1; row < planets.Rows(); ++row) page.Row(GridRow(planets, row, {0, 1, 2, 4, 5, 6, 7, 8, 9}), widths);
+  for (const auto& row : rows) page.Row(row, widths);
   page.Rule('-', width);
 
   // Ashtakavarga: the contributors by the planet table's short names (rows
@@ -196,26 +213,32 @@ void PlanetPage(Page& page, const ReportInput& in) {
   // the starred ones that only "With *" counts.
   page.Line();
   page.Line("Ashta Vargas");
-  const Widths av = {12, 5, 5, 5, 5, 5, 5, 5, 5, 5, 8, 6};
-  page.Rule('-', TableWidth(av));
+  const Grid& grid = in.ashtakavarga.mshAshtaVarga;
+  const std::initializer_list<int> cols = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11};
+  Rows signs;
+  for (int row = 1; row <= 12 && row < grid.Rows(); ++row) signs.push_back(GridRow(grid, row, cols));
+  Rows total;
+  if (grid.Rows() > 13) {
+    total.push_back(GridRow(grid, 13, cols));
+    total[0][0] = "Total  ";
+  }
   std::vector<std::string> heading = {"Rasi"};
   for (int row : {2, 3, 4, 5, 6, 7, 8, 1, 9}) {
     heading.push_back(row < planets.Rows() && planets.Cols() > 0 ? Trim(planets.Text(row, 0)) : std::string());
   }
   heading.push_back("  Total");
   heading.push_back("Total");
+  Rows all = signs;
+  all.insert(all.end(), total.begin(), total.end());
+  all.push_back(heading);
+  const Widths av = Fit({12, 5, 5, 5, 5, 5, 5, 5, 5, 5, 8, 6}, all);
+  page.Rule('-', TableWidth(av));
   page.Row(heading, av);
   page.Row({"", "", "", "", "", "", "", "", "*", "*", "", "With *"}, av);
   page.Rule('-', TableWidth(av));
-  const Grid& grid = in.ashtakavarga.mshAshtaVarga;
-  const std::initializer_list<int> cols = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11};
-  for (int row = 1; row <= 12 && row < grid.Rows(); ++row) page.Row(GridRow(grid, row, cols), av);
+  for (const auto& row : signs) page.Row(row, av);
   page.Rule('-', TableWidth(av));
-  if (grid.Rows() > 13) {
-    std::vector<std::string> total = GridRow(grid, 13, cols);
-    total[0] = "Total  ";
-    page.Row(total, av);
-  }
+  for (const auto& row : total) page.Row(row, av);
   page.Rule('-', TableWidth(av));
 }
 
@@ -225,25 +248,29 @@ void VargaDasaPage(Page& page, const ReportInput& in) {
   page.Header(5);
   page.Line("Vargas");
   const Grid& vargas = in.vargas.mshVargas;
-  const Widths vw = {18, 5, 5, 5, 5, 5, 5, 5, 5, 5, 4};
-  page.Rule('-', TableWidth(vw));
   const std::initializer_list<int> vcols = {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
   std::vector<std::string> heading = vargas.Rows() > 0 ? GridRow(vargas, 0, vcols) : std::vector<std::string>(11);
   heading[0] = "Chart Type";
+  Rows charts = {heading};
+  for (int row = 1; row < vargas.Rows(); ++row) charts.push_back(GridRow(vargas, row, vcols));
+  const Widths vw = Fit({18, 5, 5, 5, 5, 5, 5, 5, 5, 5, 4}, charts);
+  page.Rule('-', TableWidth(vw));
   page.Row(heading, vw);
   page.Rule('-', TableWidth(vw));
-  for (int row = 1; row < vargas.Rows(); ++row) page.Row(GridRow(vargas, row, vcols), vw);
+  for (size_t i = 1; i < charts.size(); ++i) page.Row(charts[i], vw);
 
   page.Line();
   page.Line("Vimshottari Dasa");
   page.Line("================");
   page.Line(in.dasa.DasaBalanceText);
-  const Widths dw = {12, 15, 15, 9};
+  const Grid& dasa = in.dasa.mshDasa;
+  Rows periods;
+  for (int row = 1; row < dasa.Rows(); ++row) periods.push_back(GridRow(dasa, row, {0, 1, 2, 3}));
+  const Widths dw = Fit({12, 15, 15, 9}, periods);
   page.Rule('-', TableWidth(dw));
   page.Row({"Dasa", "Start", "End", "Start Age"}, dw);
   page.Rule('-', TableWidth(dw));
-  const Grid& dasa = in.dasa.mshDasa;
-  for (int row = 1; row < dasa.Rows(); ++row) page.Row(GridRow(dasa, row, {0, 1, 2, 3}), dw);
+  for (const auto& row : periods) page.Row(row, dw);
   page.Rule('-', TableWidth(dw));
 }
 

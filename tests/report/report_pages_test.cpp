@@ -277,11 +277,9 @@ void SetRow(Grid& grid, int row, const std::vector<std::string>& texts) {
 TEST(ReportBhavaPage, TableOfTheMidPointsUnderTwoHeadingLines) {
   ReportModels m;
   FillDasaModel(m.dasa, 3);
-  m.bhava.mshBhavaDetails.Resize(13, 8);
   Grid& houses = m.bhava.mshBhavaDetails;
+  houses.Resize(13, 8);
   SetRow(houses, 3, {"3", "265.43.43", "Sagitarius", "Jupiter", "Poorvashada", "4", "Venus", "Mercury"});
-  // A text longer than its column keeps one blank before the next.
-  SetRow(houses, 4, {"4", "295.58.10", "Capricon", "Saturn", "Uttarabhadrapada", "1", "Mars", "Rahu"});
   const std::vector<std::string> lines = Lines(SplitPages(ComposeReport(m.Input()))[2]);
   // Header (3), drawing (21), two blank lines, then the table.
   ASSERT_EQ(lines.size(), 3u + 21u + 2u + 5u + 12u);
@@ -292,6 +290,22 @@ TEST(ReportBhavaPage, TableOfTheMidPointsUnderTwoHeadingLines) {
   EXPECT_EQ(lines[30], rule);
   EXPECT_EQ(lines[31], "");  // house 1 has no text in this model
   EXPECT_EQ(lines[33], "3     265.43.43  Sagitarius  Jupiter   Poorvashada  4    Venus     Mercury");
+}
+
+TEST(ReportBhavaPage, LongStarNameWidensItsWholeColumn) {
+  ReportModels m;
+  FillDasaModel(m.dasa, 3);
+  Grid& houses = m.bhava.mshBhavaDetails;
+  houses.Resize(13, 8);
+  SetRow(houses, 3, {"3", "265.43.43", "Sagitarius", "Jupiter", "Poorvashada", "4", "Venus", "Mercury"});
+  SetRow(houses, 4, {"4", "295.58.10", "Capricon", "Saturn", "Uttarabhadrapada", "1", "Mars", "Rahu"});
+  const std::vector<std::string> lines = Lines(SplitPages(ComposeReport(m.Input()))[2]);
+  ASSERT_EQ(lines.size(), 3u + 21u + 2u + 5u + 12u);
+  const std::string rule(80, '-');
+  EXPECT_EQ(lines[27], rule);
+  EXPECT_EQ(lines[28], "House Mid        Rasi        Rasi Lord Star             Pada Star Lord Sub Lord");
+  EXPECT_EQ(lines[30], rule);
+  EXPECT_EQ(lines[33], "3     265.43.43  Sagitarius  Jupiter   Poorvashada      4    Venus     Mercury");
   EXPECT_EQ(lines[34], "4     295.58.10  Capricon    Saturn    Uttarabhadrapada 1    Mars      Rahu");
 }
 
