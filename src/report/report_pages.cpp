@@ -22,8 +22,8 @@ constexpr int kHeaderIndent = 38;
 constexpr int kUnderscoreRule = 70;
 constexpr int kTitleBlankLines = 3;
 
-// The widths of a table's columns in characters, each at least one more than
-// its longest usual text; a longer text still keeps one blank after it.
+// The widths of a table's columns in characters: each a minimum that holds
+// its heading and its usual texts with a blank after them, widened by Fit.
 using Widths = std::vector<int>;
 
 std::string Trim(std::string_view text) {

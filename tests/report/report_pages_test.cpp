@@ -378,6 +378,20 @@ TEST(ReportPages, SixPagesWithoutAntraFifteenWithIt) {
   EXPECT_EQ(with[without.size()], '\f');
 }
 
+TEST(ReportPages, EmptyModelsGiveEmptyBodiesWithoutFailing) {
+  const ReportModels m;  // nothing calculated: no cells, no grid rows, no periods
+  const std::vector<std::string> without = SplitPages(ComposeReport(m.Input(false)));
+  ASSERT_EQ(without.size(), 6u);
+  // The Rasi chart is still drawn, with empty cells.
+  EXPECT_EQ(Lines(without[1])[4], Blanks(10) + "*           *           *           *           *");
+  // The bhukti page keeps its title and headings over no periods.
+  const std::vector<std::string> bhukti = Lines(without[5]);
+  ASSERT_EQ(bhukti.size(), 9u);
+  EXPECT_EQ(bhukti[3], "Bhukti");
+  EXPECT_EQ(bhukti[7], "Bukti       Start        End            Bukti       Start        End");
+  EXPECT_EQ(SplitPages(ComposeReport(m.Input(true))).size(), 7u);
+}
+
 TEST(ReportPages, FormFeedsSeparateAndEveryLineEndsWithCrLf) {
   ReportModels m;
   FillDasaModel(m.dasa, 9);
