@@ -16,6 +16,7 @@ int RunCli(int argc, const char* const* argv, std::ostream& out, std::ostream& e
   RegisterSummaryCommand(app, session);
   RegisterConvertCommand(app, session);
   RegisterChartCommand(app, session);
+  RegisterReportCommand(app, session);
   try {
     app.parse(argc, argv);
   } catch (const CLI::CallForHelp&) {

@@ -32,5 +32,6 @@ void RegisterStoreCommands(CLI::App& app, Session& session);
 void RegisterSummaryCommand(CLI::App& app, Session& session);
 void RegisterConvertCommand(CLI::App& app, Session& session);
 void RegisterChartCommand(CLI::App& app, Session& session);
+void RegisterReportCommand(CLI::App& app, Session& session);
 
 }  // namespace kelvaro::cli

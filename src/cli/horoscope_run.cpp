@@ -97,7 +97,7 @@ bool ApplyOverrides(const HoroscopeOptions& o, HoroscopeState& s, Session& sessi
 
 }  // namespace
 
-void AddHoroscopeOptions(CLI::App* cmd, HoroscopeOptions& o, bool withChartPrefs) {
+void AddHoroscopeOptions(CLI::App* cmd, HoroscopeOptions& o, bool withChartPrefs, bool withJson) {
   auto* date = cmd->add_option("--date", o.birth.date, "Date of birth, DD/MM/YYYY");
   auto* time = cmd->add_option("--time", o.birth.time, "Clock time of birth, HH:MM on a 24-hour clock");
   auto* lat = cmd->add_option("--lat", o.birth.lat, "Latitude, DEG{N|S}MIN, e.g. 17N20");
@@ -119,7 +119,7 @@ void AddHoroscopeOptions(CLI::App* cmd, HoroscopeOptions& o, bool withChartPrefs
   }
   auto* chart = cmd->add_option("--chart", o.chart, "Number (Sno) of a saved chart");
   cmd->add_option("--database", o.database, "Database file (default: the per-user data folder)");
-  cmd->add_flag("--json", o.json, "Print JSON");
+  if (withJson) cmd->add_flag("--json", o.json, "Print JSON");
   for (auto* opt : {date, time, lat, lon, tz}) chart->excludes(opt);
 }
 

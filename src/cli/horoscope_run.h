@@ -34,9 +34,10 @@ struct HoroscopeOptions {
 };
 
 // Adds the birth flags (--date ... --tz, --name ... --zone-name), --chart,
-// --ayanamsa with --zero-year and --progress, --language, --database and
-// --json to the command. `withChartPrefs` adds --style, --bhava and --days.
-void AddHoroscopeOptions(CLI::App* cmd, HoroscopeOptions& o, bool withChartPrefs);
+// --ayanamsa with --zero-year and --progress, --language and --database to
+// the command. `withChartPrefs` adds --style, --bhava and --days; `withJson`
+// adds --json.
+void AddHoroscopeOptions(CLI::App* cmd, HoroscopeOptions& o, bool withChartPrefs, bool withJson = true);
 
 // Opens the database, fills a context from the options, runs CalculateHoroscope
 // and hands the finished context and the open database to `print`. Bad input sets status 2; a file

@@ -68,12 +68,18 @@ void WriteAtomically(const std::filesystem::path& path, std::initializer_list<st
 
 }  // namespace
 
+std::string TextReportBytes(std::string_view text) { return std::string(text) + kPrintEnd; }
+
+std::string HtmlReportBytes(std::string_view text) {
+  return std::string("<pre>") + kPrintEnd + std::string(text) + kPrintEnd + "</pre>" + kPrintEnd;
+}
+
 void WriteTextReport(const std::filesystem::path& path, std::string_view text) {
-  WriteAtomically(path, {text, kPrintEnd});
+  WriteAtomically(path, {TextReportBytes(text)});
 }
 
 void WriteHtmlReport(const std::filesystem::path& path, std::string_view text) {
-  WriteAtomically(path, {"<pre>", kPrintEnd, text, kPrintEnd, "</pre>", kPrintEnd});
+  WriteAtomically(path, {HtmlReportBytes(text)});
 }
 
 std::vector<std::string> PrintPieces(std::string_view text, bool withoutAntra) {

@@ -27,6 +27,12 @@ class ReportWriteError : public std::runtime_error {
   explicit ReportWriteError(const std::string& message) : std::runtime_error(message) {}
 };
 
+// The bytes of each file: the text and CR LF, as one print of it; and for
+// HTML three prints, "<pre>", the text as it is (no escaping) and "</pre>",
+// each ended by CR LF. Standard output gets the same bytes.
+std::string TextReportBytes(std::string_view text);
+std::string HtmlReportBytes(std::string_view text);
+
 // The report as a text file: the text, then CR LF, as one print of it.
 // Written to a temporary file in the same folder and renamed over `path`,
 // so that a failed write leaves an earlier file of that name as it was.
