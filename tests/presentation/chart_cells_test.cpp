@@ -15,20 +15,11 @@ namespace {
 
 using testing::EnglishNames;
 using testing::kSampleLongitude;
+using testing::kSampleNavamsa;
+using testing::kSampleRasi;
 using testing::SanskritNames;
 
-// Rasi signs of the sample chart's bodies, Lagna to Maandi.
-constexpr std::array<std::int16_t, 12> kSampleRasi = {7, 3, 10, 6, 4, 2, 4, 11, 2, 8, 6, 6};
-// Whole part of longitude / 3.33333333333333, plus 1, folded to 1..12.
-constexpr std::array<std::int16_t, 12> kSampleNavamsa = {2, 3, 11, 2, 11, 5, 10, 2, 3, 9, 6, 4};
-
-ChartData SampleChart(const std::string& style, bool navamsa) {
-  ChartData c = EnglishNames();
-  c.chartStyle = style;
-  c.longitude = kSampleLongitude;
-  c.rasi = navamsa ? kSampleNavamsa : kSampleRasi;
-  return c;
-}
+ChartData SampleChart(const std::string& style, bool navamsa) { return testing::SampleChartData(style, navamsa); }
 
 std::array<std::string, 12> Captions(const LabelArray& a) {
   std::array<std::string, 12> out;

@@ -15,18 +15,10 @@ namespace {
 
 using testing::EnglishNames;
 using testing::kSampleLongitude;
+using testing::kSampleNavamsa;
+using testing::kSampleRasi;
 
-// Rasi and navamsa signs of the sample chart's bodies, Lagna to Maandi.
-constexpr std::array<std::int16_t, 12> kSampleRasi = {7, 3, 10, 6, 4, 2, 4, 11, 2, 8, 6, 6};
-constexpr std::array<std::int16_t, 12> kSampleNavamsa = {2, 3, 11, 2, 11, 5, 10, 2, 3, 9, 6, 4};
-
-ChartData SampleChart(const std::string& style, bool navamsa) {
-  ChartData c = EnglishNames();
-  c.chartStyle = style;
-  c.longitude = kSampleLongitude;
-  c.rasi = navamsa ? kSampleNavamsa : kSampleRasi;
-  return c;
-}
+ChartData SampleChart(const std::string& style, bool navamsa) { return testing::SampleChartData(style, navamsa); }
 
 // The drawing's lines without their CR LF, each checked to begin with the
 // margin and given back without it.

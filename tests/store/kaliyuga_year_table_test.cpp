@@ -3,14 +3,13 @@
 // DayVal that does not fit the 16 bits the calendars hold it in.
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <sstream>
 #include <string>
 
 #include "common/calculation_error.h"
 #include "store/database.h"
 #include "store/kaliyuga_year_table.h"
 #include "store_test_support.h"
+#include "support/year_table.h"
 
 namespace kelvaro::store {
 namespace {
@@ -28,25 +27,15 @@ class KaliyugaYearTableTest : public ::testing::Test {
 // read here field by field.
 TEST_F(KaliyugaYearTableTest, EveryRowAsTheSeedFileHoldsIt) {
   const kelvaro::KaliyugaYearTable& table = table_;
-  std::ifstream in(std::string(KELVARO_DATA_DIR) + "/kaliyuga_years.csv");
-  ASSERT_TRUE(in.good());
-  std::string line;
-  std::getline(in, line);
+  const kelvaro::testing::MapYearTable seed = kelvaro::testing::SeedYearTable();
   int rows = 0;
-  while (std::getline(in, line)) {
-    std::istringstream f(line);
-    std::string yearno, name, yearVal, dayVal, remain;
-    std::getline(f, yearno, ',');
-    std::getline(f, name, ',');
-    std::getline(f, yearVal, ',');
-    std::getline(f, dayVal, ',');
-    std::getline(f, remain, ',');
-    const auto row = table.Row(std::stoi(yearno));
+  for (const auto& [yearno, expected] : seed.rows) {
+    const auto row = table.Row(yearno);
     ASSERT_TRUE(row.has_value()) << yearno;
-    EXPECT_EQ(row->yearname, name) << yearno;
-    EXPECT_EQ(row->YearVal, std::stod(yearVal)) << yearno;
-    EXPECT_EQ(row->DayVal, std::stoi(dayVal)) << yearno;
-    EXPECT_EQ(row->YearRemain, std::stod(remain)) << yearno;
+    EXPECT_EQ(row->yearname, expected.yearname) << yearno;
+    EXPECT_EQ(row->YearVal, expected.YearVal) << yearno;
+    EXPECT_EQ(row->DayVal, expected.DayVal) << yearno;
+    EXPECT_EQ(row->YearRemain, expected.YearRemain) << yearno;
     ++rows;
   }
   EXPECT_EQ(rows, 60);
