@@ -10,6 +10,8 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   cppcheck
   tzdata
+  qt6-base-dev qt6-svg-dev libgl-dev
+  fonts-dejavu-core fonts-liberation2 fonts-lohit-deva
 )
 
 missing=()

@@ -5,6 +5,7 @@
 #include "cli/database_option.h"
 #include "common/calculation_error.h"
 #include "common/number_rules.h"
+#include "horoscope/birth_form.h"
 #include "horoscope/calculate_horoscope.h"
 #include "store/chart_store.h"
 #include "store/charts_master_table.h"
@@ -18,17 +19,7 @@ namespace kelvaro::cli {
 
 namespace {
 
-void ApplyPreferences(const store::Preferences& p, HoroscopeState& s) {
-  s.DaysInYear = p.dayInYear;
-  s.ChartStyle = p.chartStyle;
-  s.Language = p.language;
-  s.BhavaSystem = p.bhava;
-  s.AyanamsaName = s.AyanamsaInForce = p.ayanamsa;
-  s.PrefYear = s.YearInForce = p.customYear;
-  s.PrefProgress = s.ProgressInForce = p.customProgress;
-}
-
-// A saved chart's birth details, as the birth form hands them over.
+// A saved chart's birth details, handed over as the birth form hands them.
 bool ApplySavedChart(store::Database& db, std::int64_t sno, HoroscopeState& s, Session& session) {
   const auto chart = store::OpenChart(db, sno);
   if (!chart) {
@@ -36,25 +27,8 @@ bool ApplySavedChart(store::Database& db, std::int64_t sno, HoroscopeState& s, S
     session.status = kExitBadInput;
     return false;
   }
-  s.ChartName = chart->name;
-  s.BirthGender = chart->gender;
-  s.BirthDay = (chart->day < 10 ? "0" : "") + std::to_string(chart->day);
-  s.BirthMonth = chart->month;
-  s.BirthYear = std::to_string(chart->year);
-  const int hour = chart->hour12 == 12 ? (chart->pm ? 12 : 0) : chart->hour12 + (chart->pm ? 12 : 0);
-  s.BirthHour = hour == 0 ? "0" : (hour < 10 ? "0" : "") + std::to_string(hour);
-  s.BirthMinute = (chart->minute < 10 ? "0" : "") + std::to_string(chart->minute);
-  s.BirthCity = chart->city;
-  if (const auto country = store::CountryById(db, chart->countryId)) s.BirthCountry = country->name;
-  s.BirthTimeZoneName = chart->zoneText;
-  s.LatDeg = chart->latDeg;
-  s.LatMin = chart->latMin;
-  s.LatNS = chart->latNS;
-  s.LonDeg = chart->lonDeg;
-  s.LonMin = chart->lonMin;
-  s.LonEW = chart->lonEW;
-  s.TimeDiff = chart->timeDiff;
-  s.TimeDiffEW = chart->timeDiffEW;
+  const auto country = store::CountryById(db, chart->countryId);
+  HandOverBirthForm(FormFieldsOf(*chart, country ? country->name : std::string()), s);
   return true;
 }
 

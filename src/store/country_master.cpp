@@ -32,6 +32,15 @@ std::vector<CountryRow> ListCountries(Database& db) {
   });
 }
 
+std::vector<CountryRow> CountriesInTableOrder(Database& db) {
+  return db.Read("list the countries", [](SQLite::Database& c) {
+    std::vector<CountryRow> rows;
+    SQLite::Statement q(c, std::string(kColumns) + "ORDER BY CountryID");
+    while (q.executeStep()) rows.push_back(RowOf(q));
+    return rows;
+  });
+}
+
 std::optional<CountryRow> CountryById(Database& db, std::int64_t id) {
   return db.Read("read the country", [&](SQLite::Database& c) -> std::optional<CountryRow> {
     SQLite::Statement q(c, std::string(kColumns) + "WHERE CountryID = ?");

@@ -22,6 +22,8 @@ struct CountryRow {
 
 // Every country, ordered by name (without regard to case).
 std::vector<CountryRow> ListCountries(Database& db);
+// Every country in the table's own order, by CountryID: the birth form's list.
+std::vector<CountryRow> CountriesInTableOrder(Database& db);
 std::optional<CountryRow> CountryById(Database& db, std::int64_t id);
 // The country of that name, compared without regard to case.
 std::optional<CountryRow> CountryByName(Database& db, std::string_view name);

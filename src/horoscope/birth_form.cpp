@@ -1,0 +1,224 @@
+#include "horoscope/birth_form.h"
+
+#include <cctype>
+#include <string_view>
+
+#include "common/calculation_error.h"
+#include "common/date_text.h"
+#include "common/number_rules.h"
+#include "store/text_rules.h"
+
+namespace kelvaro {
+
+namespace {
+
+using store::FieldMessage;
+
+constexpr const char* kCorrectTime = "Enter Correct Time";
+
+bool AllDigits(std::string_view s) {
+  if (s.empty()) return false;
+  for (char c : s) {
+    if (!std::isdigit(static_cast<unsigned char>(c))) return false;
+  }
+  return true;
+}
+
+// A whole number of at most `digits` digits, after trimming; nothing else.
+std::optional<int> WholeNumber(std::string_view text, std::size_t digits) {
+  const std::string t = store::Trim(text);
+  if (!AllDigits(t) || t.size() > digits) return std::nullopt;
+  return std::stoi(t);
+}
+
+std::string TwoDigits(int value) { return (value < 10 ? "0" : "") + std::to_string(value); }
+
+std::string DateText(const BirthFormFields& f) {
+  return store::Trim(f.day) + "/" + store::Trim(f.month) + "/" + store::Trim(f.year);
+}
+
+}  // namespace
+
+std::optional<FieldMessage> ValidateBirthForm(const BirthFormFields& f) {
+  if (store::IsBlank(f.name)) return FieldMessage{"Txt_VC_ChartName", "Enter Name"};
+  if (store::IsBlank(f.day)) return FieldMessage{"txt_Date", "Enter Date of Birth"};
+  if (store::IsBlank(f.month)) return FieldMessage{"txt_Month", "Enter Month"};
+  if (store::IsBlank(f.year)) return FieldMessage{"txt_Year", "Enter Year"};
+  const auto year = WholeNumber(f.year, 9);
+  if (!year || *year < 1800 || *year > 3000) return FieldMessage{"txt_Year", "Enter Year Between 1800 and 3000"};
+  if (!ParseDateTime(DateText(f))) return FieldMessage{"", "Enter Correct Date"};
+  if (store::IsBlank(f.hour)) return FieldMessage{"cbHour", kCorrectTime};
+  if (store::IsBlank(f.minute)) return FieldMessage{"cbMins", kCorrectTime};
+  const auto hour = WholeNumber(f.hour, 3);
+  if (!hour || *hour > 24) return FieldMessage{"cbHour", kCorrectTime};
+  const auto minute = WholeNumber(f.minute, 3);
+  if (!minute || *minute > 59) return FieldMessage{"cbMins", kCorrectTime};
+  if (store::IsBlank(f.country)) return FieldMessage{"txt_VC_Country", "Select Country"};
+  if (store::IsBlank(f.city)) return FieldMessage{"txt_VC_City", "Select City"};
+  if (store::IsBlank(f.zone)) return FieldMessage{"cbTimeZone", "Select Timezone"};
+  return std::nullopt;
+}
+
+std::string TwentyFourHourText(const std::string& hour, bool pm) {
+  if (hour == "12") return pm ? "12" : "0";
+  if (!pm) return hour;
+  const auto h = WholeNumber(hour, 3);
+  return h ? std::to_string(*h + 12) : hour;
+}
+
+void HandOverBirthForm(const BirthFormFields& f, HoroscopeState& s) {
+  const std::string hour = TwentyFourHourText(store::Trim(f.hour), f.pm);
+  const std::string minute = store::Trim(f.minute);
+  const std::string text = DateText(f) + " " + hour + ":" + minute + ": 00";
+  const auto moment = ParseDateTime(text);
+  if (!moment) throw CalculationError("The birth date and time \"" + text + "\" is not a valid moment");
+  s.ChartName = f.name;
+  s.BirthDay = store::Trim(f.day);
+  s.BirthMonth = store::Trim(f.month);
+  s.BirthYear = store::Trim(f.year);
+  s.BirthHour = hour;
+  s.BirthMinute = minute;
+  s.BirthTimeZoneName = f.zone;
+  s.BirthMoment = *moment;
+  s.BirthGender = f.gender;
+  s.BirthCity = f.city;
+  s.BirthCountry = f.country;
+  s.AyanamsaInForce = s.AyanamsaName;
+  s.LatDeg = f.latDeg;
+  s.LatNS = f.latNS;
+  s.LatMin = f.latMin;
+  s.LonDeg = f.lonDeg;
+  s.LonEW = f.lonEW;
+  s.LonMin = f.lonMin;
+  s.TimeDiff = f.timeDiff;
+  s.TimeDiffEW = f.timeDiffEW;
+}
+
+store::ChartFields ChartFieldsOf(const BirthFormFields& f, std::int64_t countryId, std::int64_t zoneSno) {
+  store::ChartFields c;
+  c.name = store::Trim(f.name);
+  c.gender = f.gender == "Male" ? "Male" : "Female";
+  c.countryId = countryId;
+  c.city = f.city;
+  c.day = store::Trim(f.day);
+  c.month = store::Trim(f.month);
+  c.year = store::Trim(f.year);
+  c.hour = WholeNumber(TwentyFourHourText(store::Trim(f.hour), f.pm), 3).value_or(0);
+  c.minute = WholeNumber(f.minute, 3).value_or(0);
+  c.latDeg = f.latDeg;
+  c.latNS = f.latNS;
+  c.latMin = f.latMin;
+  c.lonDeg = f.lonDeg;
+  c.lonEW = f.lonEW;
+  c.lonMin = f.lonMin;
+  c.zoneSno = zoneSno;
+  return c;
+}
+
+BirthFormFields FormFieldsOf(const store::OpenedChart& chart, const std::string& countryName) {
+  BirthFormFields f;
+  f.name = chart.name;
+  f.gender = chart.gender;
+  f.day = TwoDigits(chart.day);
+  f.month = chart.month;
+  f.year = std::to_string(chart.year);
+  f.hour = TwoDigits(chart.hour12);
+  f.minute = TwoDigits(chart.minute);
+  f.pm = chart.pm;
+  f.country = countryName;
+  f.city = chart.city;
+  f.zone = chart.zoneText;
+  f.latDeg = chart.latDeg;
+  f.latMin = chart.latMin;
+  f.latNS = chart.latNS;
+  f.lonDeg = chart.lonDeg;
+  f.lonMin = chart.lonMin;
+  f.lonEW = chart.lonEW;
+  f.timeDiff = chart.timeDiff;
+  f.timeDiffEW = chart.timeDiffEW;
+  return f;
+}
+
+store::LastChart LastChartOf(const BirthFormFields& f) {
+  store::LastChart c;
+  c.name = f.name;
+  c.day = store::Trim(f.day);
+  c.month = store::Trim(f.month);
+  c.year = store::Trim(f.year);
+  c.hour = TwentyFourHourText(store::Trim(f.hour), f.pm);
+  c.minute = store::Trim(f.minute);
+  c.timeZone = f.zone;
+  c.sex = f.gender;
+  c.city = f.city;
+  c.country = f.country;
+  c.latNS = f.latNS;
+  c.latMin = NumberText(f.latMin);
+  c.latDeg = NumberText(f.latDeg);
+  c.lonEW = f.lonEW;
+  c.lonMin = NumberText(f.lonMin);
+  c.lonDeg = NumberText(f.lonDeg);
+  c.timeDiff = NumberText(f.timeDiff);
+  c.timeDiffEW = f.timeDiffEW;
+  return c;
+}
+
+std::optional<std::string> ApplyLastChart(const store::LastChart& c, HoroscopeState& s) {
+  struct Number {
+    const char* key;
+    const std::string* text;
+    double limit;
+    double value = 0;
+  };
+  Number numbers[] = {{"LatDeg", &c.latDeg, 90}, {"LatMin", &c.latMin, 59.999},  {"LonDeg", &c.lonDeg, 180},
+                      {"LonMin", &c.lonMin, 59.999}, {"TimeDiff", &c.timeDiff, 14}};
+  for (Number& n : numbers) {
+    const auto v = store::NumericValue(*n.text);
+    if (!v || *v < 0 || *v > n.limit) return "the setting " + std::string(n.key) + " \"" + *n.text + "\" is not a number from 0 to " + NumberText(n.limit);
+    n.value = *v;
+  }
+  struct Letter {
+    const char* key;
+    const std::string* text;
+    const char* a;
+    const char* b;
+  } letters[] = {{"LatNS", &c.latNS, "N", "S"}, {"LonEW", &c.lonEW, "E", "W"}, {"TimeDiffEW", &c.timeDiffEW, "E", "W"}};
+  for (const Letter& l : letters) {
+    if (*l.text != l.a && *l.text != l.b) return "the setting " + std::string(l.key) + " \"" + *l.text + "\" is not " + l.a + " or " + l.b;
+  }
+  const std::string text = c.day + "/" + c.month + "/" + c.year + " " + c.hour + ":" + c.minute + ": 00";
+  const auto moment = ParseDateTime(text);
+  if (!moment) return "the settings' birth date and time \"" + text + "\" is not a valid moment";
+  s.ChartName = c.name;
+  s.BirthDay = c.day;
+  s.BirthMonth = c.month;
+  s.BirthYear = c.year;
+  s.BirthHour = c.hour;
+  s.BirthMinute = c.minute;
+  s.BirthTimeZoneName.clear();
+  s.BirthMoment = *moment;
+  s.BirthGender = c.sex;
+  s.BirthCity = c.city;
+  s.BirthCountry = c.country;
+  s.LatNS = c.latNS;
+  s.LonEW = c.lonEW;
+  s.TimeDiffEW = c.timeDiffEW;
+  s.LatDeg = numbers[0].value;
+  s.LatMin = numbers[1].value;
+  s.LonDeg = numbers[2].value;
+  s.LonMin = numbers[3].value;
+  s.TimeDiff = numbers[4].value;
+  s.AyanamsaInForce = s.AyanamsaName;
+  return std::nullopt;
+}
+
+void ApplyPreferences(const store::Preferences& p, HoroscopeState& s) {
+  s.DaysInYear = p.dayInYear;
+  s.ChartStyle = p.chartStyle;
+  s.Language = p.language;
+  s.BhavaSystem = p.bhava;
+  s.AyanamsaName = s.AyanamsaInForce = p.ayanamsa;
+  s.PrefYear = s.YearInForce = p.customYear;
+  s.PrefProgress = s.ProgressInForce = p.customProgress;
+}
+
+}  // namespace kelvaro

@@ -1,0 +1,111 @@
+#pragma once
+// "Enter Birth Details": the one place where a birth is stated, saved,
+// opened and deleted. Modal and made anew at each opening, with the present
+// date and time as defaults. "&OK" checks the fields, hands them over and
+// runs the calculation through the main window; the form closes only when the
+// calculation succeeded.
+#include <QDateTime>
+#include <QDialog>
+#include <cstdint>
+#include <functional>
+
+#include "horoscope/birth_form.h"
+#include "store/database.h"
+#include "store/settings.h"
+
+class QComboBox;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+class QAction;
+class QVBoxLayout;
+
+namespace kelvaro::shell {
+
+class SavedChartsDialog;
+
+class BirthFormDialog : public QDialog {
+  Q_OBJECT
+
+ public:
+  struct Services {
+    store::Database* db = nullptr;
+    store::SettingsStore* settings = nullptr;
+    // Hands the form over and calculates; false when it failed (the caller
+    // has shown why). userId keys the chart's tempBhukthi rows.
+    std::function<bool(const BirthFormFields& form, std::int64_t userId)> calculate;
+    std::function<QDateTime()> now = [] { return QDateTime::currentDateTime(); };
+  };
+
+  BirthFormDialog(Services services, QWidget* parent);
+
+  BirthFormFields Fields() const;
+  // Sno of the chart on the form; 0 for a chart not yet stored.
+  std::int64_t UserId() const { return userId_; }
+
+  // Loads a saved chart into the form; nothing is calculated.
+  void OpenChart(std::int64_t sno);
+
+  void Ok();
+  void Save();
+  void New();
+  void Open();
+  void Delete();
+
+  QAction* NewAction() const { return newAction_; }
+  QAction* OpenAction() const { return openAction_; }
+  QAction* SaveAction() const { return saveAction_; }
+  QAction* DeleteAction() const { return deleteAction_; }
+  QAction* CloseAction() const { return closeAction_; }
+
+ private:
+  void BuildControls();
+  void BuildMenuAndToolbar(QVBoxLayout* layout);
+  void SetDefaults();
+  void FillCountries();
+  void ChooseCountry(bool chooseSingleZone = true);
+  void ChooseCity();
+  void ChooseZone();
+  void SetPlace(double latDeg, const std::string& latNS, double latMin, double lonDeg, const std::string& lonEW,
+                double lonMin);
+  // The checks and the place, country and zone behind the texts; false after
+  // showing the first failure.
+  bool Check();
+  void ShowFailure(const std::string& field, const std::string& message);
+  std::int64_t CountryId() const;
+  std::int64_t ZoneSno() const;
+
+  Services services_;
+  std::int64_t userId_ = 0;
+  std::int64_t openedZoneSno_ = 0;  // txt_VC_TimeDiffId
+  bool placeKnown_ = false;
+  bool zoneKnown_ = false;
+  double latDeg_ = 0, latMin_ = 0, lonDeg_ = 0, lonMin_ = 0, timeDiff_ = 0;
+  std::string latNS_ = "N", lonEW_ = "E", timeDiffEW_ = "E";
+
+  QLineEdit* name_;
+  QComboBox* gender_;
+  QComboBox* day_;
+  QComboBox* month_;
+  QComboBox* year_;
+  QComboBox* hour_;
+  QComboBox* minute_;
+  QRadioButton* am_;
+  QRadioButton* pm_;
+  QComboBox* country_;
+  QComboBox* city_;
+  QComboBox* zone_;
+  QPushButton* cityButton_;
+  QPushButton* zoneButton_;
+  QLineEdit* lat_;
+  QLineEdit* lon_;
+  QPushButton* ok_;
+  QPushButton* cancel_;
+  QAction* newAction_ = nullptr;
+  QAction* openAction_ = nullptr;
+  QAction* saveAction_ = nullptr;
+  QAction* deleteAction_ = nullptr;
+  QAction* closeAction_ = nullptr;
+};
+
+}  // namespace kelvaro::shell

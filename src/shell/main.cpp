@@ -1,0 +1,37 @@
+// kelvaro: the desktop program. Everything it does lives in the shell
+// library; this only starts it.
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QSettings>
+#include <QStandardPaths>
+
+#include "shell/main_window.h"
+#include "store/database_location.h"
+
+int main(int argc, char** argv) {
+  QApplication app(argc, argv);
+  // No organisation: the data folder is then ~/.local/share/Kelvaro, the
+  // command-line tool's.
+  QApplication::setApplicationName("Kelvaro");
+  QApplication::setApplicationVersion("2.4");
+
+  QCommandLineParser parser;
+  parser.setApplicationDescription("Kelvaro: Vedic astrology");
+  parser.addHelpOption();
+  parser.addVersionOption();
+  const QCommandLineOption database("database", "The database file (default: the per-user data folder).", "PATH");
+  parser.addOption(database);
+  parser.process(app);
+
+  QSettings settings("Kelvaro", "Kelvaro");
+  kelvaro::shell::MainWindow::Options options;
+  options.databasePath = parser.isSet(database)
+                             ? parser.value(database)
+                             : QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + "/" +
+                                   kelvaro::store::kDatabaseFileName;
+  options.settings = &settings;
+  kelvaro::shell::MainWindow window(options);
+  window.show();
+  window.Start();
+  return QApplication::exec();
+}

@@ -1,0 +1,80 @@
+#pragma once
+// What the widget tests share: a main window over a new database and a
+// settings file in a temporary folder, and the message boxes that an action
+// opens, read and answered as a user would.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QPushButton>
+#include <QMessageBox>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "shell/main_window.h"
+
+namespace kelvaro::shell::testing {
+
+struct SeenBox {
+  QString title;
+  QString text;
+  QMessageBox::Icon icon = QMessageBox::NoIcon;
+};
+
+// Runs `action`; each message box that opens meanwhile is recorded and
+// answered with `answer` (or its default button when it has no such one).
+inline std::vector<SeenBox> AnswerBoxes(const std::function<void()>& action,
+                                        QMessageBox::StandardButton answer = QMessageBox::Ok) {
+  std::vector<SeenBox> seen;
+  QTimer timer;
+  timer.setInterval(5);
+  QObject::connect(&timer, &QTimer::timeout, [&] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    if (!box || !box->isVisible()) return;
+    seen.push_back({box->windowTitle(), box->text(), box->icon()});
+    QAbstractButton* button = box->button(answer);
+    if (!button) button = box->defaultButton();
+    if (button) {
+      button->click();
+    } else {
+      box->done(0);
+    }
+  });
+  timer.start();
+  action();
+  QApplication::processEvents();
+  timer.stop();
+  return seen;
+}
+
+class ShellTest : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    ASSERT_TRUE(folder_.isValid());
+    settings_ = std::make_unique<QSettings>(folder_.filePath("settings.ini"), QSettings::IniFormat);
+  }
+
+  QString DatabasePath() const { return folder_.filePath("data/DBMirvaneBasic.db"); }
+
+  // A started main window; the boxes of its start-up are answered and kept.
+  std::unique_ptr<MainWindow> StartWindow(const QString& databasePath = {}) {
+    MainWindow::Options options;
+    options.databasePath = databasePath.isEmpty() ? DatabasePath() : databasePath;
+    options.settings = settings_.get();
+    auto window = std::make_unique<MainWindow>(options);
+    window->show();
+    startBoxes_ = AnswerBoxes([&] { window->Start(); });
+    return window;
+  }
+
+  QTemporaryDir folder_;
+  std::unique_ptr<QSettings> settings_;
+  std::vector<SeenBox> startBoxes_;
+};
+
+}  // namespace kelvaro::shell::testing
