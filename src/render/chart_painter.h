@@ -28,7 +28,8 @@ struct ChartPicture {
 };
 
 // The picture of one window of the cell model in a style (reads south[0..11],
-// east[1..12] or north[1..12] and northHouseNo[1..12]).
+// east[1..12] or north[1..12] and northHouseNo[1..12]; a house number that is
+// not a sign 1..12, a blank one included, becomes 0 and is not drawn).
 ChartPicture PictureOf(const ChartWindow& window, ChartFrame style, int lagnaSign, std::string title);
 
 // One line of text as PaintChart draws it, in the painter's coordinates.

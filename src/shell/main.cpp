@@ -21,6 +21,9 @@ int main(int argc, char** argv) {
   parser.addVersionOption();
   const QCommandLineOption database("database", "The database file (default: the per-user data folder).", "PATH");
   parser.addOption(database);
+  const QCommandLineOption exitAfterStart(
+      "exit-after-start", "Start, show the first view, and exit (status 1 when the start failed); for timing.");
+  parser.addOption(exitAfterStart);
   parser.process(app);
 
   QSettings settings("Kelvaro", "Kelvaro");
@@ -32,6 +35,10 @@ int main(int argc, char** argv) {
   options.settings = &settings;
   kelvaro::shell::MainWindow window(options);
   window.show();
-  window.Start();
+  const bool started = window.Start();
+  if (parser.isSet(exitAfterStart)) {
+    QApplication::processEvents();
+    return started ? 0 : 1;
+  }
   return QApplication::exec();
 }

@@ -205,11 +205,11 @@ bool MainWindow::OpenDatabase() {
   }
 }
 
-void MainWindow::Start() {
+bool MainWindow::Start() {
   ShowProgress(0, kProgressSteps);
   if (!OpenDatabase()) {
     HideProgress();
-    return;
+    return false;
   }
   try {
     ApplyPreferences(store::ReadPreferences(*db_), ctx_->state);
@@ -223,9 +223,9 @@ void MainWindow::Start() {
   } catch (const std::exception& e) {
     HideProgress();
     ShowError(this, Qs(e.what()));
-    return;
+    return false;
   }
-  Run();
+  return Run();
 }
 
 bool MainWindow::Run() {

@@ -49,7 +49,8 @@ class MainWindow : public QMainWindow {
   // letterhead, the last chart from "Horo" (the sample chart at a first
   // start), the calculation, the Birth Details view. A failure says why in a
   // critical box and skips the later steps; the window stays usable.
-  void Start();
+  // False when a step failed.
+  bool Start();
 
   // Hands a birth form over and runs the whole calculation; false, after a
   // critical box, when it failed, with the views left as they were.

@@ -1,0 +1,69 @@
+// The desktop program's two waits: from the start to the first view shown,
+// and from "&OK" of the birth form to every view filled.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include "shell/main_window.h"
+#include "store/database.h"
+
+namespace {
+
+using kelvaro::shell::MainWindow;
+
+struct Folder {
+  QTemporaryDir dir;
+  QSettings settings{dir.filePath("settings.ini"), QSettings::IniFormat};
+  MainWindow::Options Options() {
+    MainWindow::Options o;
+    o.databasePath = dir.filePath("DBMirvaneBasic.db");
+    o.settings = &settings;
+    return o;
+  }
+};
+
+// Window, database opened (made once before), preferences, last chart, the
+// whole calculation, the views filled and the first one painted.
+void BM_StartToFirstView(benchmark::State& state) {
+  Folder folder;
+  { kelvaro::store::Database made(folder.Options().databasePath.toStdString()); }
+  for (auto _ : state) {
+    MainWindow window(folder.Options());
+    window.show();
+    if (!window.Start()) state.SkipWithError("the start failed");
+    window.repaint();
+    QApplication::processEvents();
+  }
+}
+BENCHMARK(BM_StartToFirstView)->Unit(benchmark::kMillisecond);
+
+// "&OK": the hand-over, the calculation and every view refreshed, the chosen
+// view (a chart) painted.
+void BM_OkToViewsFilled(benchmark::State& state) {
+  Folder folder;
+  MainWindow window(folder.Options());
+  window.show();
+  if (!window.Start()) state.SkipWithError("the start failed");
+  window.ShowView(1);
+  kelvaro::BirthFormFields form;
+  form.name = "Velnesh";
+  form.day = "14";
+  form.month = "Jul";
+  form.year = "1965";
+  form.hour = "02";
+  form.minute = "15";
+  form.pm = true;
+  form.country = "India";
+  form.city = "Hyderabad (A.P)";
+  form.zone = "Asia/Kolkata  (5.5 hrs E)";
+  form.latDeg = 17, form.latMin = 20, form.lonDeg = 78, form.lonMin = 30, form.timeDiff = 5.5;
+  for (auto _ : state) {
+    if (!window.CalculateBirth(form, 0)) state.SkipWithError("the calculation failed");
+    window.repaint();
+  }
+}
+BENCHMARK(BM_OkToViewsFilled)->Unit(benchmark::kMillisecond);
+
+}  // namespace
