@@ -164,6 +164,8 @@ void MainWindow::ShowView(std::size_t index) {
   }
 }
 
+ViewPage* MainWindow::View(std::size_t index) const { return views_.at(index); }
+
 std::size_t MainWindow::CurrentViewIndex() const { return static_cast<std::size_t>(stack_->currentIndex()); }
 
 void MainWindow::ShowProgress(int done, int total) {

@@ -61,7 +61,7 @@ class MainWindow : public QMainWindow {
   // The views by their index in kHoroscopeViews.
   void ShowView(std::size_t index);
   std::size_t CurrentViewIndex() const;
-  ViewPage* View(std::size_t index) const { return views_[index]; }
+  ViewPage* View(std::size_t index) const;
 
   BirthFormDialog* OpenBirthForm();
 
