@@ -8,6 +8,7 @@
 
 #include "shell/main_window.h"
 #include "store/database.h"
+#include "support/sample_birth_form.h"
 
 namespace {
 
@@ -47,18 +48,7 @@ void BM_OkToViewsFilled(benchmark::State& state) {
   window.show();
   if (!window.Start()) state.SkipWithError("the start failed");
   window.ShowView(1);
-  kelvaro::BirthFormFields form;
-  form.name = "Velnesh";
-  form.day = "14";
-  form.month = "Jul";
-  form.year = "1965";
-  form.hour = "02";
-  form.minute = "15";
-  form.pm = true;
-  form.country = "India";
-  form.city = "Hyderabad (A.P)";
-  form.zone = "Asia/Kolkata  (5.5 hrs E)";
-  form.latDeg = 17, form.latMin = 20, form.lonDeg = 78, form.lonMin = 30, form.timeDiff = 5.5;
+  const kelvaro::BirthFormFields form = kelvaro::testing::SampleBirthForm();
   for (auto _ : state) {
     if (!window.CalculateBirth(form, 0)) state.SkipWithError("the calculation failed");
     window.repaint();

@@ -11,6 +11,7 @@
 #include "common/calculation_error.h"
 #include "common/ole_date.h"
 #include "support/sample_chart.h"
+#include "support/test_data.h"
 
 namespace kelvaro {
 namespace {
@@ -42,43 +43,18 @@ constexpr double kSampleIshtaGhati = 20.375;
 
 double Above(double x) { return std::nextafter(x, 100.0); }
 
+// The bands of the four sub-lord tables at their limits, from
+// tests/data/planet_table/sub_lord_bands.txt.
 TEST(SubLords, BandsEndAtTheirLimitInclusive) {
   const ChartData chart = SanskritNames();
   using Table = const std::string& (*)(const ChartData&, double);
-  struct Case {
-    Table table;
-    int number;
-    double degrees;
-    const char* lord;
-  };
-  const Case cases[] = {
-      {SubLordTable1, 1, 0, "Ketu"},  // the first band starts at 0 inclusive
-      {SubLordTable1, 1, 0.777777777777778, "Ketu"},
-      {SubLordTable1, 1, Above(0.777777777777778), "Sukra"},
-      {SubLordTable1, 1, 3.0, "Sukra"},  // on the limit: the band that ends there
-      {SubLordTable1, 1, Above(3.0), "Surya"},
-      {SubLordTable1, 1, 26.6666666666667, "Ketu"},
-      {SubLordTable1, 1, 30.0, "Rahu"},
-      {SubLordTable1, 1, Above(30.0), ""},
-      {SubLordTable1, 1, -0.001, ""},
-      {SubLordTable2, 2, 0, "Rahu"},
-      {SubLordTable2, 2, 1.22222222222222, "Rahu"},
-      {SubLordTable2, 2, Above(1.22222222222222), "Guru"},
-      {SubLordTable2, 2, 10.0, "Sukra"},
-      {SubLordTable2, 2, 30.0, "Sani"},
-      {SubLordTable3, 3, 0, "Budha"},
-      {SubLordTable3, 3, 17.4444444444444, "Surya"},
-      {SubLordTable3, 3, Above(17.4444444444444), "Surya"},  // the second Sun band in a row
-      {SubLordTable3, 3, 18.1111111111111, "Surya"},
-      {SubLordTable3, 3, Above(18.1111111111111), "Chandra"},
-      {SubLordTable4, 4, 0.555555555555556, "Chandra"},
-      {SubLordTable4, 4, Above(0.555555555555556), "Kuja"},
-      {SubLordTable4, 4, 16.6666666666667, "Guru"},
-      {SubLordTable4, 4, Above(16.6666666666667), "Budha"},
-      {SubLordTable4, 4, 30.0, "Sani"},
-  };
-  for (const Case& c : cases) {
-    EXPECT_EQ(c.table(chart, c.degrees), c.lord) << "table " << c.number << " at " << c.degrees;
+  const Table tables[] = {SubLordTable1, SubLordTable2, SubLordTable3, SubLordTable4};
+  const auto rows = testing::TestDataTable("planet_table/sub_lord_bands.txt");
+  ASSERT_EQ(rows.size(), 24u);
+  for (const auto& row : rows) {
+    ASSERT_EQ(row.size(), 4u);
+    const double degrees = row[2] == "above" ? Above(std::stod(row[1])) : std::stod(row[1]);
+    EXPECT_EQ(tables[std::stoi(row[0]) - 1](chart, degrees), row[3]) << "table " << row[0] << " at " << degrees;
   }
 }
 
@@ -243,23 +219,14 @@ TEST(PlanetTableFill, SampleChartWorkedIndependently) {
   ASSERT_EQ(g.Cols(), 10);
   EXPECT_EQ(g.Text(0, 1), "   Longitude  ");
   EXPECT_EQ(g.Text(0, 9), "Avasthas** ");
-  // Worked with a separate script from the longitudes: degrees in rasi as
+  // Worked with a separate script from the longitudes (in
+  // tests/data/planet_table/sample_chart.txt): degrees in rasi as
   // d.m.s, rasi, its lord, star and pada by 13 1/3 degrees, the star lord by
   // the cycle of nine, the sub lord from the bands, the karaka from the text
   // order, and the avastha star * ordinal * navamsa + 21 (Moon) + 20 + 7
   // (Libra) modulo 12. Saturn is retrograde: 323.609 the day after is 323.582.
-  const std::vector<Row> expected = {
-      {"Asc", "25.14.50", "Libra", "Venus", "Vishaka", "2", "Jupiter", "Mercury", "--", "----"},
-      {"Sun", "28.19.3", "Gemini", "Mercury", "Punarvasu", "3", "Jupiter", "Venus", "Amatya", "Netrapani"},
-      {"Moo", "5.27.22", "Capricon", "Saturn", "Uttarashada", "3", "Sun", "Mercury", "Atma", "Nidra"},
-      {"Mar", "14.39.30", "Virgo", "Mercury", "Hasta", "2", "Moon", "Jupiter", "Dara", "Netrapani"},
-      {"Mer", "24.37.45", "Cancer", "Moon", "Ashlesha", "3", "Mercury", "Rahu", "Matri", "Nidra"},
-      {"Jup", "25.29.53", "Taurus", "Venus", "Mrigshira", "1", "Mars", "Rahu", "Bhratri", "Agama"},
-      {"Ven", "22.59.36", "Cancer", "Moon", "Ashlesha", "2", "Mercury", "Moon", "Gnati", "Aagamana"},
-      {"Sat", "23.36.33 (R)", "Aquarius", "Saturn", "P.Bhadrapad", "2", "Jupiter", "Saturn", "Puttra", "Agama"},
-      {"Rah", "18.18.51", "Taurus", "Venus", "Rohini", "3", "Moon", "Mercury", "--", "Nidra"},
-      {"Ket", "18.18.51", "Scorpio", "Mars", "Jyestha", "1", "Mercury", "Mercury", "--", "Nidra"},
-  };
+  const auto expected = testing::TestDataTable("planet_table/sample_chart.txt");
+  ASSERT_EQ(expected.size(), 10u);
   for (int r = 1; r <= 10; ++r) EXPECT_EQ(g.RowTexts(r), expected[static_cast<size_t>(r - 1)]) << "row " << r;
   for (int r = 1; r <= 10; ++r) {
     const bool dashes = r == 1 || r == 9 || r == 10;

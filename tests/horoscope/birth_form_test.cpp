@@ -7,29 +7,12 @@
 
 #include "common/calculation_error.h"
 #include "horoscope/views.h"
+#include "support/sample_birth_form.h"
 
 namespace kelvaro {
 namespace {
 
-BirthFormFields Filled() {
-  BirthFormFields f;
-  f.name = "Velnesh";
-  f.day = "14";
-  f.month = "Jul";
-  f.year = "1965";
-  f.hour = "02";
-  f.minute = "15";
-  f.pm = true;
-  f.country = "India";
-  f.city = "Hyderabad (A.P)";
-  f.zone = "Asia/Kolkata  (5.5 hrs E)";
-  f.latDeg = 17;
-  f.latMin = 20;
-  f.lonDeg = 78;
-  f.lonMin = 30;
-  f.timeDiff = 5.5;
-  return f;
-}
+BirthFormFields Filled() { return testing::SampleBirthForm(); }
 
 TEST(BirthForm, ChecksInOrderWithTheirFields) {
   struct Case {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "support/sample_chart.h"
+#include "support/test_data.h"
 
 namespace kelvaro {
 namespace {
@@ -40,11 +41,10 @@ std::vector<std::string> Lines(const std::string& drawing, int margin) {
   return out;
 }
 
-template <size_t Size>
-void ExpectDrawing(const std::string& drawing, int margin, const char* const (&golden)[Size], const std::string& what) {
-  const std::vector<std::string> lines = Lines(drawing, margin);
-  ASSERT_EQ(lines.size(), Size) << what;
-  for (size_t i = 0; i < Size; ++i) EXPECT_EQ(lines[i], golden[i]) << what << " line " << i + 1;
+// Compares a drawing with its golden under tests/data/text_charts, laid out
+// from the line tables by hand and a separate script, margins left off.
+void ExpectDrawing(const std::string& drawing, int margin, const std::string& golden) {
+  EXPECT_EQ(Lines(drawing, margin), testing::TestDataLines("text_charts/" + golden + ".txt")) << golden;
 }
 
 // Where the frame's "*" stand, line by line.
@@ -86,221 +86,42 @@ const TextChartCells kFullCells = {
     "Maa Asc Sun Moo Mar Mer Jup Ven Sat Rah Ket Gul",
 };
 
-// Goldens laid out from the line tables by hand and a separate script, margins left off.
-const char* const kSouthRasi[] = {
-    "*************************************************",
-    "*           *Jup Rah    *Sun        *Mer Ven    *",
-    "*           *           *           *           *",
-    "*           *           *           *           *",
-    "*           *           *           *           *",
-    "*************************************************",
-    "*           *                       *Mar Gul Maa*",
-    "*           *                       *           *",
-    "*           *                       *           *",
-    "*           *                       *           *",
-    "*************          Rasi         *************",
-    "*Asc        *                       *Ket        *",
-    "*           *                       *           *",
-    "*           *                       *           *",
-    "*           *                       *           *",
-    "*************************************************",
-    "*           *Moo        *Sat        *           *",
-    "*           *           *           *           *",
-    "*           *           *           *           *",
-    "*           *           *           *           *",
-    "*************************************************",
-};
-const char* const kSouthNavamsa[] = {
-    "*************************************************",
-    "*           *Asc Mar Sat*Sun Rah    *Maa        *",
-    "*           *           *           *           *",
-    "*           *           *           *           *",
-    "*           *           *           *           *",
-    "*************************************************",
-    "*Jup        *                       *Gul        *",
-    "*           *                       *           *",
-    "*           *                       *           *",
-    "*           *                       *           *",
-    "*************        Navamsa        *************",
-    "*           *                       *           *",
-    "*           *                       *           *",
-    "*           *                       *           *",
-    "*           *                       *           *",
-    "*************************************************",
-    "*Ket        *Ven        *Moo Mer    *           *",
-    "*           *           *           *           *",
-    "*           *           *           *           *",
-    "*           *           *           *           *",
-    "*************************************************",
-};
-const char* const kSouthFull[] = {
-    "*************************************************",
-    "*Asc Sun Moo*Sun Moo Mar*Moo Mar Mer*Mar Mer Jup*",
-    "*Mar Mer Jup*Mer Jup Ven*Jup Ven Sat*Ven Sat Rah*",
-    "*Ven Sat Rah*Sat Rah Ket*Rah Ket Gul*Ket Gul Maa*",
-    "*           *           *           *           *",
-    "*************************************************",
-    "*Mer Jup Ven*                       *Jup Ven Sat*",
-    "*Sat Rah Ket*                       *Rah Ket Gul*",
-    "*Gul Maa Asc*                       *Maa Asc Sun*",
-    "*           *                       *           *",
-    "*************          Rasi         *************",
-    "*Ven Sat Rah*                       *Sat Rah Ket*",
-    "*Ket Gul Maa*                       *Gul Maa Asc*",
-    "*Asc Sun Moo*                       *Sun Moo Mar*",
-    "*           *                       *           *",
-    "*************************************************",
-    "*Rah Ket Gul*Ket Gul Maa*Gul Maa Asc*Maa Asc Sun*",
-    "*Maa Asc Sun*Asc Sun Moo*Sun Moo Mar*Moo Mar Mer*",
-    "*Moo Mar Mer*Mar Mer Jup*Mer Jup Ven*Jup Ven Sat*",
-    "*           *           *           *           *",
-    "*************************************************",
-};
-const char* const kNorthRasi[] = {
-    "                  Rasi",
-    "* * * * * * * * * * * * * * * * * * * * *",
-    "* * Ket             * Moo             * * ",
-    "*   *             *   *             *   *",
-    "* Asc *         *       *         * Sat *",
-    "*       *   8 *           *  10 *       *",
-    "*        7* *               * *11       *",
-    "*         * *               * *         *",
-    "*       *     *           *     *       *",
-    "*     *         *       *         *     *",
-    "*   *             *  9*             *   *",
-    "* *                 *                 * *",
-    "* *               12* 1               * *",
-    "*   *             *  4*             *   *",
-    "* Jup *         *  Mer  *         * Mar *",
-    "*Rah    *     *  Ven      *     *Gul Maa*",
-    "*        2* *               * * 6       *",
-    "*         * *               * *         *",
-    "*       *   3 *           *   5 *       *",
-    "*     * Sun     *       *         *     *",
-    "*   *             *   *             *   *",
-    "* *                 *                 * *",
-    "* * * * * * * * * * * * * * * * * * * * *",
-};
-const char* const kNorthFull[] = {
-    "                 Navamsa",
-    "* * * * * * * * * * * * * * * * * * * * *",
-    "* * Sun Moo Mar Mer * Mar Mer Jup Ven * * ",
-    "*   * Jup Ven Sat *   * Sat Rah Ket *   *",
-    "* Asc * Rah Ket *   Moo * Gul Maa * Mer *",
-    "*Sun Moo*   1 *  Mar Mer  *   3 *Jup Ven*",
-    "*Mar Mer12* *  Jup Ven Sat  * * 4Sat Rah*",
-    "*Jup Ven  * *    Rah Ket    * *  Ket Gul*",
-    "*at Rah *     *    Gul    *     *aa Asc *",
-    "*     *   Jup   *       *   Ven   *     *",
-    "*   *   Ven Sat   *  2*   Sat Rah   *   *",
-    "* *   Rah Ket Gul   *   Ket Gul Maa   * *",
-    "* *     Maa Asc    5* 6   Asc Sun     * *",
-    "*   *     Sun     *  9*     Moo     *   *",
-    "* Sat *         *  Ket  *         * Maa *",
-    "*Rah Ket*     *  Gul Maa  *     *Asc Sun*",
-    "*Gul Maa 7* *  Asc Sun Moo  * *11Moo Mar*",
-    "*Asc Sun  * *    Mar Mer    * *  Mer Jup*",
-    "*Moo Mar*   8 *    Jup    *  10 *Ven Sat*",
-    "*     * Rah Ket *       * Gul Maa *     *",
-    "*   * Gul Maa Asc *   * Asc Sun Moo *   *",
-    "* * Sun Moo Mar Mer * Mar Mer Jup Ven * *",
-    "* * * * * * * * * * * * * * * * * * * * *",
-};
-const char* const kEastRasi[] = {
-    "                    Rasi",
-    "* * * * * * * * * * * * * * * * * * * * * *",
-    "* *Jup        * Sun         *Mer        * *",
-    "*   *         *             *         *   *",
-    "*     *       *             *       *     *",
-    "*       *     *             *     *       *",
-    "*         *   *             *   *         *",
-    "*           * *             * *           *",
-    "* * * * * * * * * * * * * * * * * * * * * *",
-    "* Mar         *             * Asc         *",
-    "*             *             *             *",
-    "*             *             *             *",
-    "*             *             *             *",
-    "*             *             *             *",
-    "*             *             *             *",
-    "* * * * * * * * * * * * * * * * * * * * * *",
-    "*Ket        * *             * *           *",
-    "*         *   *   Moo       *Sat*         *",
-    "*       *     *             *     *       *",
-    "*     *       *             *       *     *",
-    "*   *         *             *         *   *",
-    "* *           *             *           * *",
-    "* * * * * * * * * * * * * * * * * * * * * *",
-};
-const char* const kEastFull[] = {
-    "                   Bhava",
-    "* * * * * * * * * * * * * * * * * * * * * *",
-    "* *Sun Moo Mar* Moo Mar     *Mar Mer Jup* *",
-    "*Asc*  Mer Jup* Mer Jup     *Ven Sat  *Mer*",
-    "*Sun  *Ven Sat* Jup Ven     *Rah Ket*  Jup*",
-    "*Moo Mar*  Rah* Rah Ket     *Gul  *Ven Sat*",
-    "*Mer Jup  *Ket*   Gul       *Maa*  Rah Ket*",
-    "*Ven Sat Rah* *             * *Gul Maa Asc*",
-    "* * * * * * * * * * * * * * * * * * * * * *",
-    "* Jup Ven Sat *             * Ven Sat Rah *",
-    "* Rah Ket Gul *             * Ket Gul Maa *",
-    "* Maa Asc Sun *             * Asc Sun Moo *",
-    "*             *             *             *",
-    "*             *             *             *",
-    "*             *             *             *",
-    "* * * * * * * * * * * * * * * * * * * * * *",
-    "*Sat Rah Ket* *             * *Maa Asc Sun*",
-    "*Gul Maa  *Rah*   Ket       *Gul*  Moo Mar*",
-    "*Asc Sun*  Ket* Gul Maa     *Maa  *Mer Jup*",
-    "*Moo  *Gul Maa* Asc Sun     *Asc Sun*  Ven*",
-    "*Mar*  Asc Sun* Moo Mar     *Moo Mar  *Sat*",
-    "* *Moo Mar Mer* Mer Jup     *Mer Jup Ven* *",
-    "* * * * * * * * * * * * * * * * * * * * * *",
-};
 
 // ---- Reducers ---------------------------------------------------------------
 
-TEST(ReduceCell, EmptyLabelStaysEmpty) {
-  EXPECT_EQ(ReduceCellLines(""), "");
-  EXPECT_EQ(ReduceCellPairs(""), "");
-  EXPECT_EQ(ReduceCellBlanks(""), "");
-}
-
-TEST(ReduceCell, LinesKeepTheNamesOfASouthRasiCell) {
-  EXPECT_EQ(ReduceCellLines("Sun  12.5"), "Sun");
-  EXPECT_EQ(ReduceCellLines("Sun  12.5\r\nMoo  3.40"), "Sun Moo");
-  EXPECT_EQ(ReduceCellLines("Asc  28.19\r\nSun  0.5\r\nMer  29.60"), "Asc Sun Mer");
-  // A Navamsa South cell: names with their two trailing blanks.
-  EXPECT_EQ(ReduceCellLines("Mar  \r\nSat  "), "Mar Sat");
-  // A lone CR or LF is no line break.
-  EXPECT_EQ(ReduceCellLines("Sun\nMoo"), "Sun");
-}
-
-TEST(ReduceCell, LinesKeepOnlyThreeCharactersOfAnEastRasiLabel) {
-  // The East Rasi label joins its bodies with blanks and no CR LF.
-  EXPECT_EQ(ReduceCellLines("Sun    Moo"), "Sun");
-  EXPECT_EQ(ReduceCellLines("Sun    Moo    Mar"), "Sun");
-}
-
-TEST(ReduceCell, PairsSplitANorthLabel) {
-  EXPECT_EQ(ReduceCellPairs("Asc  "), "Asc");
-  EXPECT_EQ(ReduceCellPairs("Lagna  Sun  Moo  "), "Lag Sun Moo");
-  // A label of one body with no trailing blanks.
-  EXPECT_EQ(ReduceCellPairs("Rah"), "Rah");
-}
-
-TEST(ReduceCell, BlanksSplitABhavaLabel) {
-  EXPECT_EQ(ReduceCellBlanks("Asc Sun Moo"), "Asc Sun Moo");
-  EXPECT_EQ(ReduceCellBlanks("Asc "), "Asc");
-  // Two blanks in a row leave an empty piece, which still adds its blank.
-  EXPECT_EQ(ReduceCellBlanks("Sun  Moo"), "Sun  Moo");
-}
-
-TEST(ReduceCell, EmptyPiecesInsideAddBlanksTheEndsDoNot) {
-  EXPECT_EQ(ReduceCellLines("Sun  1.2\r\n\r\nMoo  3.4"), "Sun  Moo");
-  EXPECT_EQ(ReduceCellLines("\r\nSun  1.2\r\n"), "Sun");
-  EXPECT_EQ(ReduceCellPairs("Sun      Moo"), "Sun   Moo");
-  EXPECT_EQ(ReduceCellBlanks("   "), "");
-  EXPECT_EQ(ReduceCellPairs("    "), "");
+TEST(ReduceCell, EachReducerOnItsLabels) {
+  using Reducer = std::string (*)(const std::string&);
+  const Reducer lines = ReduceCellLines, pairs = ReduceCellPairs, blanks = ReduceCellBlanks;
+  const struct {
+    Reducer reduce;
+    std::string label, cell;
+  } cases[] = {
+      {lines, "", ""}, {pairs, "", ""}, {blanks, "", ""},
+      // South Rasi cells: the names of the lines.
+      {lines, "Sun  12.5", "Sun"},
+      {lines, "Sun  12.5\r\nMoo  3.40", "Sun Moo"},
+      {lines, "Asc  28.19\r\nSun  0.5\r\nMer  29.60", "Asc Sun Mer"},
+      {lines, "Mar  \r\nSat  ", "Mar Sat"},  // a Navamsa South cell: names with two trailing blanks
+      {lines, "Sun\nMoo", "Sun"},              // a lone CR or LF is no line break
+      // The East Rasi label joins its bodies with blanks and no CR LF: three characters remain.
+      {lines, "Sun    Moo", "Sun"},
+      {lines, "Sun    Moo    Mar", "Sun"},
+      // North labels split in pairs of blanks.
+      {pairs, "Asc  ", "Asc"},
+      {pairs, "Lagna  Sun  Moo  ", "Lag Sun Moo"},
+      {pairs, "Rah", "Rah"},  // one body with no trailing blanks
+      // Bhava labels split at each blank; two in a row leave an empty piece, which still adds its blank.
+      {blanks, "Asc Sun Moo", "Asc Sun Moo"},
+      {blanks, "Asc ", "Asc"},
+      {blanks, "Sun  Moo", "Sun  Moo"},
+      // Empty pieces inside add blanks, those at the ends do not.
+      {lines, "Sun  1.2\r\n\r\nMoo  3.4", "Sun  Moo"},
+      {lines, "\r\nSun  1.2\r\n", "Sun"},
+      {pairs, "Sun      Moo", "Sun   Moo"},
+      {blanks, "   ", ""},
+      {pairs, "    ", ""},
+  };
+  for (const auto& c : cases) EXPECT_EQ(c.reduce(c.label), c.cell) << '"' << c.label << '"';
 }
 
 // ---- TightenBlanks -----------------------------------------------------------
@@ -331,24 +152,15 @@ TEST(TightenBlanks, EachRoutineTightensItsCellsFirst) {
 
 // ---- Drawings of the sample chart --------------------------------------------
 
-TEST(SouthTextChart, SampleRasiAndNavamsa) {
-  ExpectDrawing(SouthTextChart(kSouthRasiCells, "Rasi"), kSouthTextChartMargin, kSouthRasi, "South Rasi");
-  ExpectDrawing(SouthTextChart(kSouthNavamsaCells, "Navamsa"), kSouthTextChartMargin, kSouthNavamsa,
-                "South Navamsa");
-}
-
-TEST(NorthTextChart, SampleRasi) {
-  ExpectDrawing(NorthTextChart(kNorthRasiCells, "Rasi", 7), kNorthTextChartMargin, kNorthRasi, "North Rasi");
-}
-
-TEST(EastTextChart, SampleRasi) {
-  ExpectDrawing(EastTextChart(kEastRasiCells, "Rasi"), kEastTextChartMargin, kEastRasi, "East Rasi");
-}
-
-TEST(TextCharts, FullCellsCutAtTheTablesPlaces) {
-  ExpectDrawing(SouthTextChart(kFullCells, "Rasi"), kSouthTextChartMargin, kSouthFull, "South");
-  ExpectDrawing(NorthTextChart(kFullCells, "Navamsa", 12), kNorthTextChartMargin, kNorthFull, "North");
-  ExpectDrawing(EastTextChart(kFullCells, "Bhava"), kEastTextChartMargin, kEastFull, "East");
+TEST(TextCharts, GoldenDrawings) {
+  // The sample chart, and full cells cut at the tables' places.
+  ExpectDrawing(SouthTextChart(kSouthRasiCells, "Rasi"), kSouthTextChartMargin, "south_rasi");
+  ExpectDrawing(SouthTextChart(kSouthNavamsaCells, "Navamsa"), kSouthTextChartMargin, "south_navamsa");
+  ExpectDrawing(NorthTextChart(kNorthRasiCells, "Rasi", 7), kNorthTextChartMargin, "north_rasi");
+  ExpectDrawing(EastTextChart(kEastRasiCells, "Rasi"), kEastTextChartMargin, "east_rasi");
+  ExpectDrawing(SouthTextChart(kFullCells, "Rasi"), kSouthTextChartMargin, "south_full");
+  ExpectDrawing(NorthTextChart(kFullCells, "Navamsa", 12), kNorthTextChartMargin, "north_full");
+  ExpectDrawing(EastTextChart(kFullCells, "Bhava"), kEastTextChartMargin, "east_full");
 }
 
 // ---- Widths and the frame -----------------------------------------------------
@@ -383,7 +195,7 @@ TEST(TextCharts, FullCellsKeepTheFrame) {
   EXPECT_EQ(StarColumns(Lines(EastTextChart(kFullCells, "Rasi"), kEastTextChartMargin)),
             StarColumns(Lines(EastTextChart(empty, "Rasi"), kEastTextChartMargin)));
   // And the frame of the empty South chart is the golden's.
-  std::vector<std::string> golden(std::begin(kSouthRasi), std::end(kSouthRasi));
+  const std::vector<std::string> golden = testing::TestDataLines("text_charts/south_rasi.txt");
   EXPECT_EQ(StarColumns(Lines(SouthTextChart(empty, "Rasi"), kSouthTextChartMargin)), StarColumns(golden));
   // Longer texts than the cuts take change nothing either.
   TextChartCells longer;
@@ -518,7 +330,7 @@ TEST(ReportCells, SampleNavamsaSouth) {
   FillNavamsaChart(SampleChart("South", true), cells);
   EXPECT_EQ(ReportCells(cells.navamsa, "south"), kSouthNavamsaCells);
   ExpectDrawing(TextChart("South", ReportCells(cells.navamsa, "SOUTH"), "Navamsa", 0), kSouthTextChartMargin,
-                kSouthNavamsa, "South Navamsa from the window");
+                "south_navamsa");
 }
 
 TEST(ReportCells, BhavaCellsByBlanks) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "report_models.h"
+#include "support/test_data.h"
 
 namespace kelvaro {
 namespace {
@@ -42,78 +43,31 @@ std::string Blanks(int n) { return std::string(static_cast<size_t>(n), ' '); }
 
 const std::string kUnderscores(70, '_');
 
-// ---- Title page --------------------------------------------------------------
-
-const std::vector<std::string> kTitleTop = {
-    "",
-    "",
-    "",
-    "                         AUM GANESHAYA NAMAH",
-    "           JANANI JANMA SOUKHYANAM VARDHINEE KULA SAMPADAM",
-    "           PADAVI POORVA PUNYANAM  LIKHYATE  JANMA PATRIKA",
-    "",
-    "",
-    "",
-    "                                      www.kelvaro.org - Horoscope",
-    kUnderscores,
-    "",
-    "",
-    "",
-    "     Name                  : Velnesh",
-    "     Sex                   : Male",
-    "     Date of Birth         : 14 / 7 / 1965",
-    "     Time of Birth         : 2 : 15  PM",
-    "     LMT                   : 14:07:00",
-    "     GMT                   : 08:45:00",
-    "     Time Zone             : 5.5 E",
-    "     Ishta Ghati           : 19.15",
-    "     Birth County          : India",
-    "     Birth City            : Hyderabad (A.P)",
-    "     Latitude              : 17 20 N",
-    "     Longitude             : 78 30 E",
-    "     Sun Rise              : 05:50:12",
-    "     Sun Set               : 18:51:40",
-    "     Ayanamsa              : 23.21.36",
-    "",
-    "",
-    "",
-    "     Vedic Day             : Wednesday",
-    "     Gregorian Day         : Wednesday",
-    "     Solar Date            : Mithuna 30",
-    "     Lunar Sukladi Date    : Ashada Sukla 16",
-    "     Lunar Krishnadi Date  : Shravana Krishna 1",
-    "     Kaliyuga Year         : Vishvavasu",
-    "     Ayana                 : Dakshinayana",
-    "",
-    "",
-    "",
-    "     Janma Lagna           : Libra",
-    "     Janma Rasi            : Capricon",
-    "     Star                  : Uttarashada",
-    "     Tithi                 : Pournami",
-    "     Paksha                : Sukla",
-    "     Yogam                 : Vaidhriti",
-    "     Karnam                : Bava",
-    "",
-    "",
-    "",
-    kUnderscores,
-};
-
-TEST(ReportTitlePage, EmptyLetterheadEndsAtTheSecondRule) {
+// The models with three sub-periods of the first dasa left after birth.
+ReportModels Models() {
   ReportModels m;
   FillDasaModel(m.dasa, 3);
+  return m;
+}
+
+// ---- Title page --------------------------------------------------------------
+
+// The title page of the sample chart without a letterhead, in
+// tests/data/report/title_page.txt.
+std::vector<std::string> TitleTop() { return kelvaro::testing::TestDataLines("report/title_page.txt"); }
+
+TEST(ReportTitlePage, EmptyLetterheadEndsAtTheSecondRule) {
+  ReportModels m = Models();
   const std::vector<std::string> pages = SplitPages(ComposeReport(m.Input()));
-  EXPECT_EQ(Lines(pages[0]), kTitleTop);
+  EXPECT_EQ(Lines(pages[0]), TitleTop());
 }
 
 TEST(ReportTitlePage, OwnerBlockJoinsTheTrimmedFields) {
-  ReportModels m;
-  FillDasaModel(m.dasa, 3);
+  ReportModels m = Models();
   ReportInput input = m.Input();
   input.owner = {" Sri Jyotisha ", "12 Temple Road", "Ward 4", "Hyderabad", "India ", "500001", " 040-123 ",
                  "mail@example.org"};
-  std::vector<std::string> expected = kTitleTop;
+  std::vector<std::string> expected = TitleTop();
   expected.push_back("");
   expected.push_back("     Sri Jyotisha");
   expected.push_back("     12 Temple Road, Ward 4, Hyderabad, India - 500001, Phone : 040-123");
@@ -122,11 +76,10 @@ TEST(ReportTitlePage, OwnerBlockJoinsTheTrimmedFields) {
 }
 
 TEST(ReportTitlePage, NameAloneGivesOneOwnerLine) {
-  ReportModels m;
-  FillDasaModel(m.dasa, 3);
+  ReportModels m = Models();
   ReportInput input = m.Input();
   input.owner.name = "Kelvaro Technologies Pvt Ltd";
-  std::vector<std::string> expected = kTitleTop;
+  std::vector<std::string> expected = TitleTop();
   expected.push_back("");
   expected.push_back("     Kelvaro Technologies Pvt Ltd");
   EXPECT_EQ(Lines(SplitPages(ComposeReport(input))[0]), expected);
@@ -152,75 +105,19 @@ TEST(ReportTitlePage, LabelsInTheirOrderWithTheReportsSpelling) {
 // A South chart laid out from its line table: margin 10, rows of 49 "*",
 // cells of 11 in three text lines and a blank one, the title in the centre.
 TEST(ReportChartPage, SouthRasiAndNavamsaUnderTheHeader) {
-  ReportModels m;
-  FillDasaModel(m.dasa, 3);
+  ReportModels m = Models();
   m.cells.rasi.south.SetCaption(0, "Sun  12.5\r\nMoo  3.40");
   m.cells.rasi.south.SetCaption(6, "Asc  25.14");
   m.cells.rasi.south.SetCaption(11, "Jup  1.2\r\nRah  2.3\r\nKet  4.5\r\nSat  6.7");
   m.cells.navamsa.south.SetCaption(4, "Mar  ");
 
-  const std::string M = Blanks(10);
-  const std::string stars = M + std::string(49, '*');
-  const std::string empty4 = M + "*           *           *           *           *";
-  const std::string emptyMid = M + "*           *                       *           *";
-  const std::string titleStars = std::string(11, '*');
-  std::vector<std::string> expected = {
-      Blanks(38) + "www.kelvaro.org - Horoscope  Page 2",
-      kUnderscores,
-      "",
-      // Rasi
-      stars,
-      M + "*Sun Moo    *           *           *           *",
-      empty4,
-      empty4,
-      empty4,
-      stars,
-      emptyMid,
-      emptyMid,
-      emptyMid,
-      emptyMid,
-      M + "*" + titleStars + "*" + Blanks(10) + "Rasi" + Blanks(9) + "*" + titleStars + "*",
-      M + "*Asc        *                       *           *",
-      emptyMid,
-      emptyMid,
-      emptyMid,
-      stars,
-      M + "*           *           *           *Jup Rah Ket*",
-      M + "*           *           *           *Sat        *",
-      empty4,
-      empty4,
-      stars,
-      "",
-      "",
-      // Navamsa: 7 letters, left pad 12 - 4 (3.5 rounded to even).
-      stars,
-      empty4,
-      empty4,
-      empty4,
-      empty4,
-      stars,
-      M + "*Mar        *                       *           *",
-      emptyMid,
-      emptyMid,
-      emptyMid,
-      M + "*" + titleStars + "*" + Blanks(8) + "Navamsa" + Blanks(8) + "*" + titleStars + "*",
-      emptyMid,
-      emptyMid,
-      emptyMid,
-      emptyMid,
-      stars,
-      empty4,
-      empty4,
-      empty4,
-      empty4,
-      stars,
-  };
+  // Navamsa: 7 letters, left pad 12 - 4 (3.5 rounded to even).
+  const std::vector<std::string> expected = kelvaro::testing::TestDataLines("report/chart_page_south.txt");
   EXPECT_EQ(Lines(SplitPages(ComposeReport(m.Input()))[1]), expected);
 }
 
 TEST(ReportChartPage, StyleIsComparedUpperCased) {
-  ReportModels m;
-  FillDasaModel(m.dasa, 3);
+  ReportModels m = Models();
   m.cells.rasi.east.SetCaption(1, "Sun  ");
   const std::string lower = SplitPages(ComposeReport(m.Input(false, "east")))[1];
   const std::string proper = SplitPages(ComposeReport(m.Input(false, "East")))[1];
@@ -230,8 +127,7 @@ TEST(ReportChartPage, StyleIsComparedUpperCased) {
 }
 
 TEST(ReportChartPage, UnknownStyleLeavesOnlyTheHeader) {
-  ReportModels m;
-  FillDasaModel(m.dasa, 3);
+  ReportModels m = Models();
   const std::vector<std::string> lines = Lines(SplitPages(ComposeReport(m.Input(false, "West")))[1]);
   EXPECT_EQ(lines, (std::vector<std::string>{Blanks(38) + "www.kelvaro.org - Horoscope  Page 2", kUnderscores, "",
                                               "", ""}));
@@ -240,8 +136,7 @@ TEST(ReportChartPage, UnknownStyleLeavesOnlyTheHeader) {
 // ---- Bhava and planet pages -----------------------------------------------------
 
 TEST(ReportBhavaPage, TitleFollowsTheSystem) {
-  ReportModels m;
-  FillDasaModel(m.dasa, 3);
+  ReportModels m = Models();
   const std::string equal = SplitPages(ComposeReport(m.Input(false, "South", "Equal")))[2];
   const std::string other = SplitPages(ComposeReport(m.Input(false, "South", "Not Equal")))[2];
   EXPECT_NE(equal.find("\r\nBhava Positions  (Equal Division of Houses From M.C)\r\n"), std::string::npos);
@@ -250,8 +145,7 @@ TEST(ReportBhavaPage, TitleFollowsTheSystem) {
 }
 
 TEST(ReportPlanetPage, RowLeavesOutTheRasiLordAndFitsItsRule) {
-  ReportModels m;
-  FillDasaModel(m.dasa, 3);
+  ReportModels m = Models();
   m.planets.mshNirayana.Resize(11, 10);
   const std::vector<std::string> sat = {"Sat",    "23.36.33 (R)", "Aquarius", "RASILORD", "P.Bhadrapad",
                                         "2",      "Jupiter",      "Saturn",   "Puttra",   "Agama"};
@@ -275,8 +169,7 @@ void SetRow(Grid& grid, int row, const std::vector<std::string>& texts) {
 }
 
 TEST(ReportBhavaPage, TableOfTheMidPointsUnderTwoHeadingLines) {
-  ReportModels m;
-  FillDasaModel(m.dasa, 3);
+  ReportModels m = Models();
   Grid& houses = m.bhava.mshBhavaDetails;
   houses.Resize(13, 8);
   SetRow(houses, 3, {"3", "265.43.43", "Sagitarius", "Jupiter", "Poorvashada", "4", "Venus", "Mercury"});
@@ -293,8 +186,7 @@ TEST(ReportBhavaPage, TableOfTheMidPointsUnderTwoHeadingLines) {
 }
 
 TEST(ReportBhavaPage, LongStarNameWidensItsWholeColumn) {
-  ReportModels m;
-  FillDasaModel(m.dasa, 3);
+  ReportModels m = Models();
   Grid& houses = m.bhava.mshBhavaDetails;
   houses.Resize(13, 8);
   SetRow(houses, 3, {"3", "265.43.43", "Sagitarius", "Jupiter", "Poorvashada", "4", "Venus", "Mercury"});
@@ -310,8 +202,7 @@ TEST(ReportBhavaPage, LongStarNameWidensItsWholeColumn) {
 }
 
 TEST(ReportPlanetPage, AshtakavargaUnderThePlanetTablesShortNames) {
-  ReportModels m;
-  FillDasaModel(m.dasa, 3);
+  ReportModels m = Models();
   m.planets.mshNirayana.Resize(11, 10);
   const std::vector<std::string> shortNames = {"Asc", "Sun", "Moo", "Mar", "Mer", "Jup", "Ven", "Sat", "Rah", "Ket"};
   for (int r = 1; r <= 10; ++r) m.planets.mshNirayana.SetText(r, 0, shortNames[static_cast<size_t>(r - 1)]);
@@ -336,8 +227,7 @@ TEST(ReportPlanetPage, AshtakavargaUnderThePlanetTablesShortNames) {
 }
 
 TEST(ReportVargaDasaPage, DasaTableWithTheBalanceLine) {
-  ReportModels m;
-  FillDasaModel(m.dasa, 3);
+  ReportModels m = Models();
   SetRow(m.dasa.mshDasa, 2, {"Moon", "01/Aug/1967", "31/Jul/1977", "2"});
   const std::vector<std::string> lines = Lines(SplitPages(ComposeReport(m.Input()))[4]);
   // An empty varga grid leaves its heading alone.
@@ -356,8 +246,7 @@ TEST(ReportVargaDasaPage, DasaTableWithTheBalanceLine) {
 }
 
 TEST(ReportChartPage, QuoteInACellIsPrintedAsItIs) {
-  ReportModels m;
-  FillDasaModel(m.dasa, 3);
+  ReportModels m = Models();
   m.cells.rasi.south.SetCaption(1, "Su'  1.2");
   const std::vector<std::string> lines = Lines(SplitPages(ComposeReport(m.Input()))[1]);
   EXPECT_EQ(lines[4], Blanks(10) + "*           *Su'        *           *           *");
@@ -366,8 +255,7 @@ TEST(ReportChartPage, QuoteInACellIsPrintedAsItIs) {
 // ---- Page count, separators, page numbers ------------------------------------------
 
 TEST(ReportPages, SixPagesWithoutAntraFifteenWithIt) {
-  ReportModels m;
-  FillDasaModel(m.dasa, 3);
+  ReportModels m = Models();
   const std::string without = ComposeReport(m.Input(false));
   const std::string with = ComposeReport(m.Input(true));
   EXPECT_EQ(SplitPages(without).size(), 6u);
@@ -416,8 +304,7 @@ TEST(ReportPages, FormFeedsSeparateAndEveryLineEndsWithCrLf) {
 }
 
 TEST(ReportPages, HeadersNumberEveryPageFromTwoOn) {
-  ReportModels m;
-  FillDasaModel(m.dasa, 3);
+  ReportModels m = Models();
   const std::vector<std::string> pages = SplitPages(ComposeReport(m.Input(true)));
   for (size_t i = 1; i < pages.size(); ++i) {
     const std::vector<std::string> lines = Lines(pages[i]);
@@ -430,8 +317,7 @@ TEST(ReportPages, HeadersNumberEveryPageFromTwoOn) {
 // ---- Bhukti and antra pages ----------------------------------------------------
 
 TEST(ReportBhuktiPage, TwoColumnsOfDasaBlocks) {
-  ReportModels m;
-  FillDasaModel(m.dasa, 3);
+  ReportModels m = Models();
   const std::vector<std::string> lines = Lines(SplitPages(ComposeReport(m.Input()))[5]);
   ASSERT_GT(lines.size(), 12u);
   EXPECT_EQ(lines[3], "Bhukti");
@@ -457,8 +343,7 @@ TEST(ReportBhuktiPage, AWholeFirstDasaStillFitsOnePage) {
 }
 
 TEST(ReportAntraPage, BlocksNameDasaAndBhuktiAndKeepTheirSpelling) {
-  ReportModels m;
-  FillDasaModel(m.dasa, 3);
+  ReportModels m = Models();
   const std::vector<std::string> pages = SplitPages(ComposeReport(m.Input(true)));
   const std::vector<std::string> lines = Lines(pages[6]);
   ASSERT_GT(lines.size(), 12u);

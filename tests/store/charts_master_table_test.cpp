@@ -14,6 +14,7 @@
 #include "store/database.h"
 #include "store/seed_files.h"
 #include "store_test_support.h"
+#include "support/test_data.h"
 
 namespace kelvaro::store {
 namespace {
@@ -39,52 +40,20 @@ int SeedRowCount() {
   return rows;
 }
 
-// Each expected sign is worked by hand from the rule of the chart (sign
-// numbers 1 Aries to 12 Pisces), not read from the seed file.
+// Each expected sign, in tests/data/charts_master/classical_rules.txt, is
+// worked by hand from the rule of the chart (sign numbers 1 Aries to 12
+// Pisces), not read from the seed file.
 TEST_F(ChartsMasterTableTest, SeedRowsFollowTheClassicalRules) {
   const DatabaseChartsMasterTable table(db_);
   EXPECT_EQ(static_cast<int>(table.RowCount()), SeedRowCount());
   const kelvaro::ChartsMasterTable& lookup = table;
-  const struct {
-    const char* chart;
-    double degree;
-    int rasi;
-    std::optional<int> house;
-    const char* why;
-  } cases[] = {
-      {"HORA", 14.999, 1, 5, "odd sign, first half: the Sun's hora, Leo"},
-      {"HORA", 15.0, 1, 4, "odd sign, on 15: the second half, Cancer"},
-      {"HORA", 0.0, 2, 4, "even sign, first half: the Moon's hora, Cancer"},
-      {"DREKKANA", 9.999, 2, 2, "Taurus, first third: Taurus itself"},
-      {"DREKKANA", 10.0, 2, 6, "Taurus, on 10: its 5th, Virgo"},
-      {"CHATURTHAMSHA", 7.4999, 1, 1, "Aries, first quarter: Aries"},
-      {"CHATURTHAMSHA", 7.5, 1, 4, "Aries, on 7.5: its 4th, Cancer"},
-      {"DASHAMSHA", 29.99, 1, 10, "Aries, tenth part from Aries: Capricorn"},
-      {"DASHAMSHA", 3.0, 2, 11, "Taurus counts from its 9th (Capricorn); part 2 is Aquarius"},
-      {"EKADASHAMSHA", 2.7272727272727, 2, 12, "just below 30/11"},
-      {"EKADASHAMSHA", 2.72727272727273, 2, 1, "on the stored edge of 30/11: Aries"},
-      {"DWADASHAMSHA", 2.5, 12, 1, "Pisces, part 2 from Pisces: Aries"},
-      {"CHATURVIMSHAMSHA", 28.75, 4, 3, "even sign from Cancer, part 24: Gemini"},
-      {"TRIMSHAMSHA", 4.99, 1, 1, "odd sign, Mars 0-5: Aries"},
-      {"TRIMSHAMSHA", 5.0, 1, 11, "odd sign, Saturn 5-10: Aquarius"},
-      {"TRIMSHAMSHA", 11.99, 2, 6, "even sign, Mercury 5-12: Virgo"},
-      {"TRIMSHAMSHA", 12.0, 2, 12, "even sign, Jupiter 12-20: Pisces"},
-      {"KHAVEDAMSA", 0.0, 2, 7, "even sign from Libra"},
-      {"AKSHVEDAMSA", 0.0, 3, 9, "dual sign from Sagittarius"},
-      {"AKSHVEDAMSA", 0.666666666666667, 4, 2, "movable sign from Aries, on the edge of part 2: Taurus"},
-      {"SHASTIAMSA", 0.5, 7, 8, "Libra, part 2 from Libra: Scorpio"},
-      {"hora", 3.0, 1, 5, "the name in lower case"},
-      {"Drekkana", 10.0, 2, 6, "the name in mixed case"},
-      {"HORA", 30.0, 1, std::nullopt, "30 is no degree within a sign"},
-      {"HORA", -0.5, 1, std::nullopt, "below the first band"},
-      {"HORA", 3.0, 13, std::nullopt, "no sign 13"},
-      {"NAVAMSA", 3.0, 1, std::nullopt, "computed charts have no rows"},
-      {"HORA ", 3.0, 1, std::nullopt, "the name is not trimmed"},
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(std::string(c.chart) + " " + std::to_string(c.degree) + " rasi " + std::to_string(c.rasi) + ": " +
-                 c.why);
-    EXPECT_EQ(lookup.House(c.chart, c.degree, c.rasi), c.house);
+  const auto rows = kelvaro::testing::TestDataTable("charts_master/classical_rules.txt");
+  ASSERT_EQ(rows.size(), 28u);
+  for (const auto& row : rows) {
+    ASSERT_EQ(row.size(), 5u);
+    SCOPED_TRACE(row[0] + " " + row[1] + " rasi " + row[2] + ": " + row[4]);
+    const std::optional<int> house = row[3].empty() ? std::nullopt : std::optional<int>(std::stoi(row[3]));
+    EXPECT_EQ(lookup.House(row[0], std::stod(row[1]), std::stoi(row[2])), house);
   }
 }
 

@@ -1,0 +1,58 @@
+#pragma once
+// Test helper: files under tests/data, found through KELVARO_TEST_DATA (set by
+// CTest), or beside the seed data folder when a test binary is run by hand.
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace kelvaro::testing {
+
+// The bytes of a data file; a missing file fails the test that asked for it.
+inline std::string ReadTestData(const std::string& name) {
+  const char* root = std::getenv("KELVARO_TEST_DATA");
+#ifdef KELVARO_DATA_DIR
+  const std::string folder = root ? root : KELVARO_DATA_DIR "/../tests/data";
+#else
+  const std::string folder = root ? root : "tests/data";
+#endif
+  std::ifstream in(folder + "/" + name, std::ios::binary);
+  if (!in) throw std::runtime_error("no test data file " + folder + "/" + name);
+  return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+}
+
+// Its lines as they are, trailing blanks kept, without the LF that ends each.
+inline std::vector<std::string> TestDataLines(const std::string& name) {
+  const std::string bytes = ReadTestData(name);
+  std::vector<std::string> lines;
+  for (size_t from = 0; from < bytes.size();) {
+    const size_t end = bytes.find('\n', from);
+    lines.push_back(bytes.substr(from, end == std::string::npos ? std::string::npos : end - from));
+    if (end == std::string::npos) break;
+    from = end + 1;
+  }
+  return lines;
+}
+
+// The rows of a table file: fields split at '|', blank lines and lines that
+// begin with '#' (comments on where the values come from) left out.
+inline std::vector<std::vector<std::string>> TestDataTable(const std::string& name) {
+  std::vector<std::vector<std::string>> rows;
+  for (const std::string& line : TestDataLines(name)) {
+    if (line.empty() || line[0] == '#') continue;
+    std::vector<std::string> fields;
+    for (size_t from = 0;;) {
+      const size_t bar = line.find('|', from);
+      fields.push_back(line.substr(from, bar == std::string::npos ? std::string::npos : bar - from));
+      if (bar == std::string::npos) break;
+      from = bar + 1;
+    }
+    rows.push_back(std::move(fields));
+  }
+  return rows;
+}
+
+}  // namespace kelvaro::testing
