@@ -1,6 +1,6 @@
 #include "shell/dasa_view.h"
 
-#include <QGridLayout>
+#include <QSplitter>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 
@@ -27,11 +27,22 @@ DasaView::DasaView(QWidget* parent)
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(MakeHeading(tr("Dasa"), this));
   layout->addWidget(balance_);
-  auto* grids = new QGridLayout;
-  grids->addWidget(new QLabel(tr("Dasa"), this), 0, 0);
-  grids->addWidget(dasas_, 1, 0);
-  grids->addWidget(new QLabel(tr("Bhukti"), this), 0, 1);
-  grids->addWidget(bhuktis_, 1, 1);
+  // Three panes side by side, each as wide as its columns at first; the
+  // splitter lets the user give one more room.
+  auto* panes = panes_ = new QSplitter(Qt::Horizontal, this);
+  auto pane = [&](const QString& caption, QLayout* top, GridView* grid) {
+    auto* box = new QWidget(panes);
+    auto* column = new QVBoxLayout(box);
+    column->setContentsMargins(0, 0, 0, 0);
+    if (top) {
+      column->addLayout(top);
+    } else {
+      column->addWidget(new QLabel(caption, box));
+    }
+    grid->setParent(box);
+    column->addWidget(grid, 1);
+    panes->addWidget(box);
+  };
   auto* choice = new QHBoxLayout;
   auto* dasaLabel = new QLabel(tr("Antra of &Dasa"), this);
   dasaLabel->setBuddy(dasaChoice_);
@@ -42,14 +53,11 @@ DasaView::DasaView(QWidget* parent)
   choice->addWidget(bhuktiLabel);
   choice->addWidget(bhuktiChoice_);
   choice->addStretch(1);
-  auto* antra = new QVBoxLayout;
-  antra->addLayout(choice);
-  antra->addWidget(antras_);
-  grids->addLayout(antra, 1, 2);
-  grids->setColumnStretch(0, 1);
-  grids->setColumnStretch(1, 1);
-  grids->setColumnStretch(2, 1);
-  layout->addLayout(grids, 1);
+  pane(tr("Dasa"), nullptr, dasas_);
+  pane(tr("Bhukti"), nullptr, bhuktis_);
+  pane({}, choice, antras_);
+  panes->setChildrenCollapsible(false);
+  layout->addWidget(panes, 1);
   connect(dasaChoice_, &QComboBox::currentIndexChanged, this, [this] { FillBhuktiChoice(); });
   connect(bhuktiChoice_, &QComboBox::currentIndexChanged, this, [this] { ShowSection(); });
 }
@@ -80,6 +88,11 @@ void DasaView::Refresh(const ViewSource& source) {
   const int keep = dasaChoice_->findText(dasaBefore);
   dasaChoice_->setCurrentIndex(keep >= 0 ? keep : 0);
   FillBhuktiChoice();
+  // The first filled tables give the panes their widths; later the user's stand.
+  if (!panesSized_) {
+    panes_->setSizes({dasas_->sizeHint().width(), bhuktis_->sizeHint().width(), antras_->sizeHint().width()});
+    panesSized_ = true;
+  }
 }
 
 void DasaView::FillBhuktiChoice() {

@@ -3,6 +3,7 @@
 // dasa and bhukti chosen in two lists.
 #include <QComboBox>
 #include <QLabel>
+#include <QSplitter>
 
 #include "shell/grid_view.h"
 #include "shell/view_page.h"
@@ -38,6 +39,8 @@ class DasaView : public ViewPage {
   GridView* antras_;
   QComboBox* dasaChoice_;
   QComboBox* bhuktiChoice_;
+  QSplitter* panes_ = nullptr;
+  bool panesSized_ = false;
   Grid antraGrid_;
   std::vector<Section> sections_;
 };

@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QScrollBar>
 #include <algorithm>
 #include <map>
 
@@ -47,6 +48,14 @@ QString GridView::SelectionText() const {
     lines.append(texts.join('\t'));
   }
   return lines.join('\n');
+}
+
+QSize GridView::sizeHint() const {
+  int width = 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+  for (int c = 0; c < model_.columnCount(); ++c) {
+    width += std::max(sizeHintForColumn(c), horizontalHeader()->sectionSizeHint(c));
+  }
+  return {std::max(width, 120), QTableView::sizeHint().height()};
 }
 
 void GridView::CopySelection() const { QApplication::clipboard()->setText(SelectionText()); }

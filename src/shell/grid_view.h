@@ -18,6 +18,8 @@ class GridView : public QTableView {
   // The chosen cells (all of them when none is chosen) as text.
   QString SelectionText() const;
   void CopySelection() const;
+  // As wide as the columns, so that a pane starts without a scroll bar.
+  QSize sizeHint() const override;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;

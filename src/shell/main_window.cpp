@@ -64,7 +64,7 @@ MainWindow::MainWindow(Options options, QWidget* parent)
   statusBar()->addWidget(progressLabel_);
   statusBar()->addWidget(progress_, 1);
   HideProgress();
-  resize(1100, 760);
+  resize(1240, 780);
   restoreGeometry(options_.settings->value(kGeometryKey).toByteArray());
   restoreState(options_.settings->value(kStateKey).toByteArray());
 }
