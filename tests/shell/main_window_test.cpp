@@ -3,6 +3,7 @@
 // database that cannot be opened.
 #include <QDockWidget>
 #include <QFile>
+#include <QImage>
 #include <QMenuBar>
 #include <QStackedWidget>
 #include <QTest>
@@ -90,6 +91,17 @@ TEST_F(ShellTest, TreeChoosesViewsAndTheChoiceOutlivesACalculation) {
 
   ASSERT_TRUE(window->Recalculate());
   EXPECT_EQ(window->CurrentViewIndex(), 2u);
+
+  // Save as PNG and SVG; a folder that does not exist is named in a box.
+  ChartWidget& drawn = chart->Chart();
+  EXPECT_TRUE(drawn.SaveAs(folder_.filePath("rasi.png"), false));
+  EXPECT_EQ(QImage(folder_.filePath("rasi.png")).width(), kChartExportPixels);
+  EXPECT_TRUE(drawn.SaveAs(folder_.filePath("rasi.svg"), true));
+  const QString missing = folder_.filePath("no/such/folder/rasi.svg");
+  const auto boxes = AnswerBoxes([&] { EXPECT_FALSE(drawn.SaveAs(missing, true)); });
+  ASSERT_EQ(boxes.size(), 1u);
+  EXPECT_EQ(boxes[0].icon, QMessageBox::Critical);
+  EXPECT_TRUE(boxes[0].text.contains(missing)) << boxes[0].text.toStdString();
 
   // The grids are shown as the calculation left them, read-only.
   auto* planets = static_cast<TablesView*>(window->View(5));
