@@ -187,7 +187,7 @@ void FillBhava(const ChartData& chart, clsStar& star, BhavaTables& out) {
     details.SetText(row, 0, std::to_string(row));
     details.SetText(row, 1, FormatDegrees(mid));
     details.SetText(row, 2, RasiNameOf(chart, rasi));
-    details.SetText(row, 3, RasiLordOf(mid, "Rasi"));
+    details.SetText(row, 3, RasiLordOf(chart, mid, "Rasi"));
     star.PlanetPosition = mid;
     star.findstar();
     details.SetText(row, 4, star.StarName);

@@ -56,6 +56,10 @@ std::string RasiLordOf(double longitude, const std::string& kind) {
   return kRasiLords[static_cast<size_t>(number - 1)];
 }
 
+std::string RasiLordOf(const ChartData& chart, double longitude, const std::string& kind) {
+  return LocalisedPlanetName(chart, RasiLordOf(longitude, kind));
+}
+
 std::string StarLordOf(int starNo) {
   if (starNo < 1 || starNo > 28) return {};
   return kStarLords[static_cast<size_t>(starNo - 1)];

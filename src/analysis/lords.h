@@ -26,6 +26,10 @@ const std::string& RasiNameOf(const ChartData& chart, int rasi);
 // empty text.
 std::string RasiLordOf(double longitude, const std::string& kind);
 
+// The same lord by its long name in the chart's language (LongNames), as the
+// star-lord and sub-lord columns beside it show theirs: "Sukra" in Sanskrit.
+std::string RasiLordOf(const ChartData& chart, double longitude, const std::string& kind);
+
 // English name of the lord of star 1 to 28 as clsStar numbers them, Abhijit
 // being 22 and ruled by the Sun; "Kethu" for the south node. Any other number
 // gives empty text.

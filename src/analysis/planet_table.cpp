@@ -219,7 +219,7 @@ void FillPlanetTable(const ChartData& chart, double ishtaGhati, ClsFindPlanetPos
   for (int b = 0; b < kBodyRows; ++b) grid.SetText(b + 1, kNameCol, chart.ShortNames[static_cast<size_t>(b)]);
   for (int b = 0; b < kBodyRows; ++b) grid.SetText(b + 1, kDegreesCol, FormatDegrees(DegreesInRasi(lon(b))));
   for (int b = 0; b < kBodyRows; ++b) grid.SetText(b + 1, kRasiCol, RasiNameOf(chart, rasi[static_cast<size_t>(b)]));
-  for (int b = 0; b < kBodyRows; ++b) grid.SetText(b + 1, kRasiLordCol, RasiLordOf(lon(b), "Rasi"));
+  for (int b = 0; b < kBodyRows; ++b) grid.SetText(b + 1, kRasiLordCol, RasiLordOf(chart, lon(b), "Rasi"));
   for (int b = 0; b < kBodyRows; ++b) {
     star.PlanetPosition = lon(b);
     star.findstar();

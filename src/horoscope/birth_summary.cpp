@@ -57,10 +57,12 @@ OleDate SunriseOfTheDay(CalculationContext& ctx, OleDate moment) {
   return sunrise;
 }
 
-// Steps 4 and 5 of the local mean time, shared with the ishta ghati.
+// Steps 4 and 5 of the local mean time, shared with the ishta ghati. Both
+// use the local mean time moment, so the sunrise is the last one before it
+// and the ghati lies from 0 to below 60.
 void GhatiFromSunrise(CalculationContext& ctx) {
   BirthSummary& b = ctx.summary;
-  b.SunriseForGhati = SunriseOfTheDay(ctx, b.SummaryMoment);
+  b.SunriseForGhati = SunriseOfTheDay(ctx, b.LocalMeanTimeMoment);
   b.IshtaGhatiMinutes = static_cast<double>(DateDiff(Interval::Minute, b.SunriseForGhati, b.LocalMeanTimeMoment));
   b.IshtaGhati = b.IshtaGhatiMinutes / 60 * 2.5;
 }
@@ -114,11 +116,13 @@ void FillCalendarFields(CalculationContext& ctx) {
 double ComputeLocalMeanTime(CalculationContext& ctx) {
   const HoroscopeState& s = ctx.state;
   BirthSummary& b = ctx.summary;
-  const double longitude = s.LonDeg + s.LonMin / 60;
-  const double meridian = s.TimeDiff * 15;
+  // East longitudes and east zones count positive, so "west of the zone
+  // meridian" is geometric: New York, 74 W in the zone of 75 W, lies east of
+  // its meridian and its local mean time is later than the clock.
+  const double longitude = (s.LonEW == "W" ? -1 : 1) * (s.LonDeg + s.LonMin / 60);
+  const double meridian = (s.TimeDiffEW == "W" ? -1 : 1) * s.TimeDiff * 15;
   // Degrees of difference times 4 are minutes of time; the digits after the
-  // point of that number's text are the fraction that makes the seconds. The
-  // comparison takes the magnitudes as entered, whatever the hemisphere.
+  // point of that number's text are the fraction that makes the seconds.
   const std::string text = NumberText(std::fabs(longitude - meridian) * 4);
   const auto point = text.find('.');
   const double minutes = std::stod(text.substr(0, point));

@@ -256,6 +256,17 @@ TEST(Bhava, SampleChart) {
   for (const auto& row : reworked) EXPECT_EQ(g.RowTexts(std::stoi(row[0])), row) << row[0];
   EXPECT_EQ(d.RowTexts(1),
             (std::vector<std::string>{"1", "220.22.3", "Scorpio", "Mars", "Anuradha", "3", "Saturn", "Sun"}));
+
+  // RasiLordInTheChartsLanguage: in Sanskrit the rasi lord is a long name
+  // like the star and sub lords beside it.
+  ChartData sanskrit = ChartWith(205.24722234655192, 115.9693235454145, planets, "Equal");
+  const ChartData names = testing::SanskritNames();
+  sanskrit.language = names.language;
+  sanskrit.ShortNames = names.ShortNames;
+  sanskrit.LongNames = names.LongNames;
+  sanskrit.RasiNames = names.RasiNames;
+  FillBhava(sanskrit, star, t);
+  EXPECT_EQ(d.RowTexts(1), (std::vector<std::string>{"1", "205.14.50", "Tula", "Sukra", "Vishaka", "2", "Guru", "Budha"}));
 }
 
 // A failed fill leaves the tables of the last one.

@@ -261,8 +261,9 @@ TEST(PlanetTableFill, BodiesOnBandLimitsAndAKarakaTie) {
   EXPECT_EQ(Column(g, 0, 1, 10),
             (std::vector<std::string>{"Lag", "Rav", "Cha", "Kuj", "Bud", "Gur", "Suk", "San", "Rah", "Ket"}));
   EXPECT_EQ(Column(g, 2, 1, 3), (std::vector<std::string>{"Mesha", "Mesha", "Vrischika"}));
-  // Rasi lords stay English.
-  EXPECT_EQ(Column(g, 3, 1, 3), (std::vector<std::string>{"Mars", "Mars", "Mars"}));
+  // Rasi lords by their long names, like the lord columns beside them
+  // (RasiLordInTheChartsLanguage: they used to stay English).
+  EXPECT_EQ(Column(g, 3, 1, 3), (std::vector<std::string>{"Kuja", "Kuja", "Kuja"}));
   // Table 1 at 3.0 Venus, at 10.0 Saturn; table 4 at 3.0 Rahu; table 2 at
   // 15.5 Jupiter; table 3 at 2.25 Ketu; table 2 at 7.0 Mercury; table 1 at
   // 10.0 Saturn; table 3 at 0.75 Mercury; table 4 at 10.0 Venus; table 2 at

@@ -87,6 +87,48 @@ TEST_F(SampleChartRun, BeforeSunriseTheVedicDayIsTheDayBefore) {
   EXPECT_EQ(ctx_.summary.txtTimeOfBirth, "3 : 00  AM");
 }
 
+// The local mean time is geometric (east positive), and the ishta ghati
+// counts from the last sunrise before the local mean time moment.
+TEST_F(SampleChartRun, LocalMeanTimeWestOfTheMeridianAndIshtaGhatiNearSunrise) {
+  struct Case {
+    const char* hour;
+    const char* minute;
+    double latDeg, latMin;
+    const char* latNS;
+    double lonDeg, lonMin;
+    const char* lonEW;
+    double zone;
+    const char* zoneEW;
+    const char* lmt;
+    const char* ghati;
+  } cases[] = {
+      // New York: 74 W is 1 degree east of 75 W, 4 minutes later.
+      {"12", "30", 40, 43, "N", 74, 0, "W", 5, "W", "14/Jul/1965 12:34 PM", nullptr},
+      // Los Angeles: 118 15 W is 1.75 degrees east of 120 W, 7 minutes later.
+      {"09", "10", 34, 3, "N", 118, 15, "W", 8, "W", "14/Jul/1965 09:17 AM", nullptr},
+      // 06:00 at Hyderabad is 05:44 local mean time, before the day's sunrise
+      // (05:50): 1435 minutes from the day before's.
+      {"06", "00", 17, 20, "N", 78, 30, "E", 5.5, "E", "14/Jul/1965 05:44 AM", "59:7917"},
+      // 04:55 at Kolkata is 05:18 local mean time, 18 minutes after sunrise.
+      {"04", "55", 22, 34, "N", 88, 22, "E", 5.5, "E", "14/Jul/1965 05:18 AM", "00:7500"},
+  };
+  for (const Case& c : cases) {
+    HoroscopeState& s = ctx_.state;
+    s.BirthHour = c.hour;
+    s.BirthMinute = c.minute;
+    s.LatDeg = c.latDeg, s.LatMin = c.latMin, s.LatNS = c.latNS;
+    s.LonDeg = c.lonDeg, s.LonMin = c.lonMin, s.LonEW = c.lonEW;
+    s.TimeDiff = c.zone, s.TimeDiffEW = c.zoneEW;
+    CalculateHoroscope(ctx_);
+    EXPECT_EQ(ctx_.summary.txtlmt, c.lmt);
+    if (c.ghati) {
+      EXPECT_EQ(ctx_.summary.txtIshtaGhati, c.ghati) << c.lmt;
+    }
+    EXPECT_GE(ctx_.summary.IshtaGhati, 0) << c.lmt;
+    EXPECT_LT(ctx_.summary.IshtaGhati, 60) << c.lmt;
+  }
+}
+
 TEST_F(SampleChartRun, SanskritNames) {
   ctx_.state.Language = "Sanskrit";
   CalculateHoroscope(ctx_);
