@@ -97,7 +97,10 @@ std::vector<BhukthiRow> FillBuktis(const ChartData& chart, DasaTables& out) {
       end = AddSubPeriod(start, DasaYears(lord) * dasaYears / kSchemeYears);
       out.BhuktiLord[k * 9 + j] = lord;
       out.BhuktiEnd[k * 9 + j] = end;
-      if (end > birth) out.bhuktis.push_back({dasaLord, lord, {}, out.bhuktis.empty() ? birth : start, end});
+      // Compared at the whole second: an end that the calendar steps put on
+      // the birth moment, whatever its last bits, leaves no period of zero
+      // length at birth.
+      if (DateDiff(Interval::Second, birth, end) > 0) out.bhuktis.push_back({dasaLord, lord, {}, out.bhuktis.empty() ? birth : start, end});
       lord = NextDasaLord(lord);
     }
   }

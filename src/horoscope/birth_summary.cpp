@@ -81,7 +81,8 @@ bool IsUttarayana(const std::string& month) {
 }
 
 bool IsDakshinayana(const std::string& month) {
-  for (const char* m : {"Sravana", "Ashadha", "Bhadrapada", "Asvina", "Karttika", "Margasira"}) {
+  // Karttika under both of its spellings, so the ayana is never blank.
+  for (const char* m : {"Sravana", "Ashadha", "Bhadrapada", "Asvina", "Karttika", "Kartikka", "Margasira"}) {
     if (month == m) return true;
   }
   return false;

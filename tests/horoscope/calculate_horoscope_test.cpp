@@ -129,6 +129,27 @@ TEST_F(SampleChartRun, LocalMeanTimeWestOfTheMeridianAndIshtaGhatiNearSunrise) {
   }
 }
 
+// Births from the defects once found: each gives what it must.
+TEST_F(SampleChartRun, NoSubPeriodOfZeroLengthAtBirthAndKartikkaIsDakshinaya) {
+  HoroscopeState& s = ctx_.state;
+  s.BirthDay = "26", s.BirthMonth = "04", s.BirthYear = "1903", s.BirthHour = "23", s.BirthMinute = "03";
+  s.LatDeg = 56, s.LatMin = 47, s.LatNS = "N", s.LonDeg = 88, s.LonMin = 1, s.LonEW = "W";
+  s.TimeDiff = 6, s.TimeDiffEW = "W";
+  s.AyanamsaName = s.AyanamsaInForce = "Sayana";
+  CalculateHoroscope(ctx_);
+  const Grid& bukti = ctx_.dasa.mshBukti;
+  // The Rahu sub-period ends at birth to the second: the first row is the
+  // next one, which starts at birth.
+  EXPECT_EQ(bukti.RowTexts(1), (std::vector<std::string>{"Jupiter Dasa", "26/Apr/1903", "14/Feb/1904", "0"}));
+
+  // 20/11/2023 10:00 at Hyderabad falls in the month spelled "Kartikka".
+  ctx_.state = SampleChart();
+  s.BirthDay = "20", s.BirthMonth = "11", s.BirthYear = "2023", s.BirthHour = "10", s.BirthMinute = "00";
+  CalculateHoroscope(ctx_);
+  EXPECT_NE(ctx_.summary.txtSLunarDate.find("Kartikka"), std::string::npos) << ctx_.summary.txtSLunarDate;
+  EXPECT_EQ(ctx_.summary.txtAyana, "Dakshinaya");
+}
+
 TEST_F(SampleChartRun, SanskritNames) {
   ctx_.state.Language = "Sanskrit";
   CalculateHoroscope(ctx_);
