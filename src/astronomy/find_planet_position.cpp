@@ -1,4 +1,5 @@
 #include "astronomy/find_planet_position.h"
+#include "astronomy/signed_degrees.h"
 
 namespace kelvaro {
 
@@ -8,8 +9,8 @@ void ClsFindPlanetPosition::SetInputs(OleDate date, const std::string& strNS, do
                                       double zeroYear, double progress) {
   ClsPlanet& p = planet_;
   p.BirthDateTime = date;
-  p.CL_LatitudeDeg = (strNS == "S" && latDeg > 0) ? -latDeg : latDeg;
-  p.CL_LongitudeDeg = (strEW == "E" && lonDeg > 0) ? -lonDeg : lonDeg;  // East negative in the engine
+  p.CL_LatitudeDeg = SignedDegrees(strNS == "S", latDeg);
+  p.CL_LongitudeDeg = SignedDegrees(strEW == "E", lonDeg);  // East negative in the engine
   p.CL_LongitudeMin = lonMin;
   p.CL_LatitideMin = latMin;
   if (ayanamsaType == "Custom") {

@@ -1,4 +1,5 @@
 #include "astronomy/find_sunrise.h"
+#include "astronomy/signed_degrees.h"
 
 namespace kelvaro {
 
@@ -6,10 +7,8 @@ void RunSunriseFacade(clsSunrise& sunrise, OleDate date, const std::string& strN
                       const std::string& strEW, double lonDeg, double lonMin, std::int16_t daylightFlag,
                       double zoneHours, const std::string& strZoneSide) {
   sunrise.BirthDateTime = date;
-  // Only a positive degree count takes the sign: 0S30 stays 0 degrees and
-  // clsSunrise then reads the place as 0N30.
-  sunrise.CL_LatitudeDeg = (strNS == "S" && latDeg > 0) ? -latDeg : latDeg;
-  sunrise.CL_LongitudeDeg = (strEW == "W" && lonDeg > 0) ? -lonDeg : lonDeg;
+  sunrise.CL_LatitudeDeg = SignedDegrees(strNS == "S", latDeg);
+  sunrise.CL_LongitudeDeg = SignedDegrees(strEW == "W", lonDeg);
   sunrise.CL_LongitudeMin = lonMin;
   sunrise.CL_LatitideMin = latMin;
   sunrise.STZ = strZoneSide == "E" ? zoneHours : -zoneHours;

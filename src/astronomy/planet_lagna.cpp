@@ -3,17 +3,17 @@
 #include <cmath>
 
 #include "astronomy/planet.h"
+#include "astronomy/signed_degrees.h"
 
 namespace kelvaro {
 
 void ClsPlanet::FnFindLagna() {
   double U;
   const double T = DsaveFreeCenturies(U);
-  // The sign of each coordinate rests on its degrees alone: 0 degrees with a
-  // southern or eastern letter still counts as positive.
-  const double phi = CL_LatitudeDeg < 0 ? CL_LatitudeDeg - CL_LatitideMin / 60 : CL_LatitudeDeg + CL_LatitideMin / 60;
-  const double lambda =
-      CL_LongitudeDeg < 0 ? CL_LongitudeDeg - CL_LongitudeMin / 60 : CL_LongitudeDeg + CL_LongitudeMin / 60;
+  // The sign of each coordinate rests on its degrees, a negative zero
+  // included: 0 degrees with a southern or eastern letter keeps its side.
+  const double phi = JoinDegrees(CL_LatitudeDeg, CL_LatitideMin);
+  const double lambda = JoinDegrees(CL_LongitudeDeg, CL_LongitudeMin);
   double theta = ((6.6460656 + 2400.0513 * T + 2.58e-05 * (T * T)) + U) * 15 - lambda;  // East negative
   while (theta > 360) theta -= 360;
   while (theta < 0) theta += 360;

@@ -1,4 +1,5 @@
 #include "astronomy/sunrise.h"
+#include "astronomy/signed_degrees.h"
 
 #include <array>
 #include <cmath>
@@ -46,10 +47,10 @@ std::string LatitudeText(double latitude, double deg, double min) {
 void clsSunrise::FnCalculate() {
   FpGuard guard;
 
-  // A place a few minutes South with deg = 0 reads as North: the sign is
-  // taken from the degrees alone.
-  m_latitude = CL_LatitudeDeg < 0 ? CL_LatitudeDeg - CL_LatitideMin / 60 : CL_LatitudeDeg + CL_LatitideMin / 60;
-  m_longitude = CL_LongitudeDeg < 0 ? CL_LongitudeDeg - CL_LongitudeMin / 60 : CL_LongitudeDeg + CL_LongitudeMin / 60;
+  // The sign is taken from the degrees, a negative zero included, so that a
+  // place a few minutes South of the equator (0 S 13) stays South.
+  m_latitude = JoinDegrees(CL_LatitudeDeg, CL_LatitideMin);
+  m_longitude = JoinDegrees(CL_LongitudeDeg, CL_LongitudeMin);
   FpGuard::CheckFinite(m_latitude, kOperation);
   FpGuard::CheckFinite(m_longitude, kOperation);
   FpGuard::CheckFinite(STZ, kOperation);

@@ -150,6 +150,20 @@ TEST_F(SampleChartRun, NoSubPeriodOfZeroLengthAtBirthAndKartikkaIsDakshinaya) {
   EXPECT_EQ(ctx_.summary.txtAyana, "Dakshinaya");
 }
 
+// PlaceAtZeroDegreesKeepsItsHemisphere: 0 whole degrees keeps the letter's
+// side in the Lagna (the astronomy tests hold sunrise and sunset).
+TEST_F(SampleChartRun, PlaceAtZeroDegreesKeepsItsHemisphere) {
+  HoroscopeState& s = ctx_.state;
+  s.BirthDay = "20", s.BirthMonth = "03", s.BirthYear = "1912", s.BirthHour = "17", s.BirthMinute = "45";
+  s.LatDeg = 21, s.LatMin = 17, s.LatNS = "S", s.LonDeg = 0, s.LonMin = 57, s.LonEW = "E";
+  s.TimeDiff = 0, s.TimeDiffEW = "E";
+  CalculateHoroscope(ctx_);
+  // Read as 0 W 57 the Lagna fell in Leo; east of Greenwich it is in Virgo.
+  EXPECT_NEAR(ctx_.state.LagnaLon, 150.9, 0.1);
+  EXPECT_EQ(ctx_.summary.txtLagna, "Virgo");
+
+}
+
 TEST_F(SampleChartRun, SanskritNames) {
   ctx_.state.Language = "Sanskrit";
   CalculateHoroscope(ctx_);
