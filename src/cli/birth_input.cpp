@@ -20,9 +20,12 @@ bool AllDigits(std::string_view s) {
   return true;
 }
 
+// Digits as a number; a count too large for an int gives -1, which every
+// range check then refuses, so nothing too large is read silently as 0.
 int ToInt(std::string_view s) {
   int v = 0;
-  std::from_chars(s.data(), s.data() + s.size(), v);
+  const auto r = std::from_chars(s.data(), s.data() + s.size(), v);
+  if (r.ec != std::errc() || r.ptr != s.data() + s.size()) return -1;
   return v;
 }
 
@@ -61,8 +64,8 @@ std::optional<InputError> ReadAngle(const std::string& field, const std::string&
   }
   const int d = ToInt(value.substr(0, at));
   const int m = at + 1 < value.size() ? ToInt(value.substr(at + 1)) : 0;
-  if (d > maxDegrees) return InputError{field, value, "degrees must be 0 to " + std::to_string(maxDegrees)};
-  if (m > 59) return InputError{field, value, "minutes must be 0 to 59"};
+  if (d < 0 || d > maxDegrees) return InputError{field, value, "degrees must be 0 to " + std::to_string(maxDegrees)};
+  if (m < 0 || m > 59) return InputError{field, value, "minutes must be 0 to 59"};
   if (d == maxDegrees && m != 0) {
     return InputError{field, value, "must not exceed " + std::to_string(maxDegrees) + " degrees"};
   }
@@ -93,7 +96,8 @@ std::optional<InputError> ApplyBirthDetails(const BirthText& text, const std::st
     const int month = ToInt(v.substr(a + 1, b - a - 1));
     const int year = ToInt(v.substr(b + 1));
     if (month < 1 || month > 12) return InputError{prefix + "date", v, "month must be 1 to 12"};
-    if (year < 100) return InputError{prefix + "date", v, "year must be 100 to 9999"};
+    // The birth form's range, everywhere.
+    if (year < 1800 || year > 3000) return InputError{prefix + "date", v, "year must be 1800 to 3000"};
     if (!OleDate::IsValidDate(year, month, day)) {
       return InputError{prefix + "date", v, "there is no such day"};
     }
@@ -112,8 +116,8 @@ std::optional<InputError> ApplyBirthDetails(const BirthText& text, const std::st
     }
     const int hour = ToInt(v.substr(0, colon));
     const int minute = ToInt(v.substr(colon + 1));
-    if (hour > 23) return InputError{prefix + "time", v, "hour must be 0 to 23"};
-    if (minute > 59) return InputError{prefix + "time", v, "minute must be 0 to 59"};
+    if (hour < 0 || hour > 23) return InputError{prefix + "time", v, "hour must be 0 to 23"};
+    if (minute < 0 || minute > 59) return InputError{prefix + "time", v, "minute must be 0 to 59"};
     // As the form turns its 12-hour list into 24-hour text: "0" for 12 AM, the
     // list's "02" for 2 AM, the sum "14" for 2 PM.
     s.BirthHour = hour == 0 ? "0" : (hour < 10 ? "0" : "") + std::to_string(hour);

@@ -98,7 +98,12 @@ void RunConvert(const ConvertOptions& o, Conversion conversion, Session& session
       dateOnly.hour = "12";
       dateOnly.minute = "0";
       const auto day = ConverterMoment(dateOnly);
-      if (!day) throw CalculationError("\"" + o.date + "\" is not a date");
+      if (!day) {
+        // As the other conversion says it.
+        session.err << "kelvaro-cli: Enter Correct Date\n";
+        session.status = kExitBadInput;
+        return;
+      }
       const OleDate t = IshtaGhatiToBirthTime(day->DateOnly(), std::stod(entry.hour), std::stod(entry.minute),
                                               sunriseOf);
       session.out << BirthTimeText(t) << "\n";

@@ -1,9 +1,12 @@
 // kelvaro-cli charts, places and prefs: the saved charts, the place masters
 // and the preferences row of DBMirvaneBasic.db.
+#include <charconv>
+#include <limits>
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include <algorithm>
+#include <cmath>
 #include <filesystem>
 #include <functional>
 #include <memory>
@@ -35,7 +38,7 @@ struct StoreOptions {
   std::string database;
   bool json = false;
   std::string filter = "All";
-  std::int64_t id = 0;
+  std::string id;  // the chart number as typed; ChartNumber reads it
   std::string country;
   std::vector<std::string> pairs;
 };
@@ -100,10 +103,23 @@ void ChartsList(Session& s, const StoreOptions& o) {
   });
 }
 
+// A chart number: digits that fit a 64-bit number; anything else (a number
+// too large among it) is refused, never clamped.
+std::int64_t ChartNumber(const std::string& text) {
+  std::int64_t value = 0;
+  const auto r = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (text.empty() || r.ec != std::errc() || r.ptr != text.data() + text.size() || value < 1) {
+    throw BadInput{fmt::format("ID \"{}\": a chart number is a whole number from 1 to {}", text.substr(0, 40),
+                               std::numeric_limits<std::int64_t>::max())};
+  }
+  return value;
+}
+
 void ChartsShow(Session& s, const StoreOptions& o) {
   Run(s, o, [&](Database& db) {
-    const auto chart = store::OpenChart(db, o.id);
-    if (!chart) throw BadInput{fmt::format("no saved chart has the number {}", o.id)};
+    const std::int64_t id = ChartNumber(o.id);
+    const auto chart = store::OpenChart(db, id);
+    if (!chart) throw BadInput{fmt::format("no saved chart has the number {}", id)};
     const auto country = store::CountryById(db, chart->countryId);
     const std::string countryName = country ? country->name : fmt::format("(no country {})", chart->countryId);
     const std::string date = fmt::format("{:02d}/{}/{}", chart->day, chart->month, chart->year);
@@ -153,7 +169,8 @@ void ChartsShow(Session& s, const StoreOptions& o) {
 
 void ChartsDelete(Session& s, const StoreOptions& o) {
   Run(s, o, [&](Database& db) {
-    if (!store::DeleteChart(db, o.id)) throw BadInput{fmt::format("no saved chart has the number {}", o.id)};
+    const std::int64_t id = ChartNumber(o.id);
+    if (!store::DeleteChart(db, id)) throw BadInput{fmt::format("no saved chart has the number {}", id)};
     s.out << store::kChartDeletedMessage << "\n";
   });
 }
@@ -309,6 +326,11 @@ void PrefsSet(Session& s, const StoreOptions& o) {
         for (const auto& k : kPreferenceKeys) keys += (keys.empty() ? "" : ", ") + std::string(k.key);
         throw BadInput{"unknown preference \"" + key + "\"; the keys are " + keys};
       }
+    }
+    // What --zero-year refuses, this refuses too: a year is whole.
+    if (in.ayanamsa == "Custom" && !store::ValidatePreferences(in)) {
+      const double year = *store::NumericValue(in.zeroYear);
+      if (year != std::trunc(year)) throw BadInput{"zero-year \"" + in.zeroYear + "\": expected a whole year"};
     }
     const store::WriteResult saved = store::SavePreferences(db, in);
     if (!saved.ok()) throw BadInput{KeyOfField(saved.failure->field) + ": " + saved.failure->message};

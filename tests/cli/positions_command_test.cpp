@@ -71,6 +71,18 @@ TEST(PositionsCommand, BadInputNamesTheFieldAndPrintsNothing) {
        "--time \"14:75\": minute must be 0 to 59"},
       {{"positions", "--date", "14/07/1965", "--time", "14:15", "--lat", "95N00", "--lon", "78E30", "--tz", "5.5E"},
        "--lat \"95N00\": degrees must be 0 to 90"},
+      // The birth form's years, everywhere.
+      {{"positions", "--date", "31/12/1799", "--time", "14:15", "--lat", "17N20", "--lon", "78E30", "--tz", "5.5E"},
+       "--date \"31/12/1799\": year must be 1800 to 3000"},
+      {{"positions", "--date", "01/01/3001", "--time", "14:15", "--lat", "17N20", "--lon", "78E30", "--tz", "5.5E"},
+       "--date \"01/01/3001\": year must be 1800 to 3000"},
+      // NumbersTooLargeAreNotReadAsZero.
+      {{"positions", "--date", "14/07/1965", "--time", "14:15", "--lat", "99999999999N00", "--lon", "78E30", "--tz",
+        "5.5E"},
+       "--lat \"99999999999N00\": degrees must be 0 to 90"},
+      {{"positions", "--date", "14/07/1965", "--time", "14:15", "--lat", "17N20", "--lon", "78E4294967296", "--tz",
+        "5.5E"},
+       "--lon \"78E4294967296\": minutes must be 0 to 59"},
       {{"positions", "--date", "14/07/1965", "--time", "14:15", "--lat", "17N20", "--lon", "78X30", "--tz", "5.5E"},
        "--lon \"78X30\""},
       {{"positions", "--date", "14/07/1965", "--time", "14:15", "--lat", "17N20", "--lon", "78E30", "--tz", "15E"},

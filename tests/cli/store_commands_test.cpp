@@ -118,6 +118,12 @@ TEST_F(StoreCommands, ChartsListShowDelete) {
   EXPECT_EQ(RunTool({"charts", "show", std::to_string(velnesh), "--database", Db()}).status, kExitBadInput);
   EXPECT_EQ(RunTool({"charts", "delete", std::to_string(velnesh), "--database", Db()}).status, kExitBadInput);
   EXPECT_EQ(RunTool({"charts", "list", "--database", Db()}).out, ChartLines({{asha, "Asha~14-Jul-1965"}}));
+  // ChartNumberTooLargeIsRefusedNotClamped.
+  for (const char* id : {"99999999999999999999", "-3", "1x"}) {
+    const Outcome refused = RunTool({"charts", "delete", id, "--database", Db()});
+    EXPECT_EQ(refused.status, kExitBadInput) << id;
+    EXPECT_TRUE(Contains(refused.err, std::string("ID \"") + id + "\"")) << refused.err;
+  }
 }
 
 // The messages and their order are worked in the store's preference tests;
@@ -133,6 +139,8 @@ TEST_F(StoreCommands, PrefsSetValidatesWithTheSystemMessages) {
       {{"ayanamsa", "Custom", "progression", " "}, "progression: Enter Progression"},
       {{"ayanamsa", "Custom", "progression", "x"}, "progression: Enter Progression in Number "},
       {{"ayanamsa", "Custom", "progression", "1000.5"}, "progression: Enter Progression less than 1000"},
+      // ZeroYearWithAFraction: refused as --zero-year refuses it.
+      {{"ayanamsa", "Custom", "zero-year", "285.5", "progression", "50"}, "zero-year \"285.5\": expected a whole year"},
       {{"ayanamsa", "Fagan"}, "ayanamsa must be one of Lahiri, Raman, KP, Sayana, Custom"},
       {{"colour", "blue"}, "unknown preference \"colour\""},
       {{"ayanamsa"}, "KEY VALUE pairs"},

@@ -103,6 +103,8 @@ TEST_F(SummaryAndConvert, ConvertBothWays) {
   } cases[] = {
       {with({"convert", "to-ghati", "--date", "14/07/1799", "--time", "14:15"}), "Enter Year Between 1800 and 3000"},
       {with({"convert", "to-ghati", "--date", "31/06/1965", "--time", "14:15"}), "Enter Correct Date"},
+      // ToTimeOfANonexistentDate: refused as to-ghati refuses it, not a failure.
+      {with({"convert", "to-time", "--date", "31/02/1965", "--ghati", "21", "--vighati", "2"}), "Enter Correct Date"},
       {with({"convert", "to-ghati", "--date", "14/07/1965", "--time", "25:15"}), "Enter Correct Time"},
       {with({"convert", "to-time", "--date", "14/07/1965", "--ghati", "61", "--vighati", "0"}), "Enter Correct Time"},
       {{"convert", "to-ghati", "--date", "14/07/1965", "--time", "14:15", "--country", "India", "--city", "Nowhere",
