@@ -125,6 +125,7 @@ TEST_F(BatchFile, GoodRowsPrintInOrderAndBadRowsAreCounted) {
       "31/02/1965,14:15,17N20,78E30,5.5E,Lahiri\n"
       "14/07/1965,14:15,17N20\n"
       "01/01/2000,00:00,51N30,0W07,0E,KP\r\n"
+      "01/01/0100,00:00,51N30,0W07,0E,KP\n"
       "\n"
       "14/07/1965,14:15,17N20,78E30,5.5E,Sayana\n");
   const Outcome r = RunTool({"positions", "--batch", path_.string()});
@@ -136,10 +137,11 @@ TEST_F(BatchFile, GoodRowsPrintInOrderAndBadRowsAreCounted) {
   EXPECT_NEAR(nlohmann::json::parse(out[1])["ayanamsa"].get<double>(), -23.76, 0.02);
   EXPECT_EQ(nlohmann::json::parse(out[2])["ayanamsa"].get<double>(), 0.0);
   const auto err = Lines(r.err);
-  ASSERT_EQ(err.size(), 3u);
+  ASSERT_EQ(err.size(), 4u);
   EXPECT_NE(err[0].find("row 3: date \"31/02/1965\""), std::string::npos) << err[0];
   EXPECT_NE(err[1].find("row 4: expected 6 fields, found 3"), std::string::npos) << err[1];
-  EXPECT_NE(err[2].find("2 of 5 rows rejected"), std::string::npos) << err[2];
+  EXPECT_NE(err[2].find("row 6: date \"01/01/0100\": year must be 1800 to 3000"), std::string::npos) << err[2];
+  EXPECT_NE(err[3].find("3 of 6 rows rejected"), std::string::npos) << err[3];
 }
 
 TEST_F(BatchFile, SameAnswerAsOneBirthAtATime) {
