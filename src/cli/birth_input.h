@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "common/text_checks.h"
 #include "horoscope/horoscope_state.h"
 
 namespace kelvaro::cli {
@@ -25,7 +26,9 @@ struct InputError {
   std::string field;
   std::string value;
   std::string problem;
-  std::string Message() const { return value.empty() ? field + ": " + problem : field + " \"" + value + "\": " + problem; }
+  std::string Message() const {
+    return value.empty() ? field + ": " + problem : field + " \"" + MessageValue(value) + "\": " + problem;
+  }
 };
 
 // Fills the birth details and the ayanamsa of `state` from the texts, or

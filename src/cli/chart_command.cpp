@@ -55,7 +55,7 @@ void PrintChart(const CalculationContext& ctx, bool json, Session& session) {
     for (const Grid* g : TableGrids(ctx)) j[g->Name()] = GridJson(*g);
     j["Lab_DasaBalanceV"] = ctx.dasa.Lab_DasaBalanceV;
     for (const Grid* g : DasaGrids(ctx)) j[g->Name()] = GridJson(*g);
-    session.out << j.dump(2) << "\n";
+    session.out << j.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << "\n";
     return;
   }
   for (const ChartWindow* w : {&ctx.cells.rasi, &ctx.cells.navamsa, &ctx.cells.bhava}) {

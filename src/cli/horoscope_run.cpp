@@ -110,6 +110,13 @@ void RunHoroscope(const HoroscopeOptions& o, Session& session,
       }
     }
   }
+  for (const auto& [value, flag] : {std::pair{&o.name, "--name"}, std::pair{&o.city, "--city"},
+                                    std::pair{&o.country, "--country"}, std::pair{&o.zoneName, "--zone-name"}}) {
+    if (!IsValidUtf8(*value)) {
+      BadInput(session, std::string(flag) + " \"" + MessageValue(*value) + "\": not valid UTF-8 text");
+      return;
+    }
+  }
   try {
     store::Database db(DatabasePathOrDefault(o.database));
     store::DatabaseKaliyugaYearTable years(db);

@@ -160,7 +160,7 @@ void RunBatch(const std::string& path, Session& session) {
         ++rejected;
         continue;
       }
-      buffer += PositionsJson(s).dump();
+      buffer += PositionsJson(s).dump(-1, ' ', false, nlohmann::json::error_handler_t::replace);
       buffer += '\n';
       if (buffer.size() > (1 << 16)) {
         session.out << buffer;
@@ -222,7 +222,7 @@ void RegisterPositionsCommand(CLI::App& app, Session& session) {
       return;
     }
     if (*json) {
-      session.out << PositionsJson(s).dump(2) << "\n";
+      session.out << PositionsJson(s).dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << "\n";
     } else {
       session.out << PositionsTable(s);
     }

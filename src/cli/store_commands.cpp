@@ -15,6 +15,7 @@
 #include <string>
 #include <vector>
 
+#include "common/text_checks.h"
 #include "cli/cli.h"
 #include "cli/database_option.h"
 #include "store/chart_store.h"
@@ -96,10 +97,14 @@ void ChartsList(Session& s, const StoreOptions& o) {
     if (o.json) {
       nlohmann::ordered_json j = nlohmann::ordered_json::array();
       for (const auto& item : list.items) j.push_back({{"sno", item.sno}, {"chart_name", item.chartName}});
-      s.out << j.dump(2) << "\n";
+      s.out << j.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << "\n";
       return;
     }
-    for (const auto& item : list.items) s.out << fmt::format("{:>6}  {}\n", item.sno, item.chartName);
+    // One line a chart whatever its name holds: a line break or a byte that
+    // is no text is shown escaped.
+    for (const auto& item : list.items) {
+      s.out << fmt::format("{:>6}  {}\n", item.sno, MessageValue(item.chartName, item.chartName.size()));
+    }
   });
 }
 
@@ -148,7 +153,7 @@ void ChartsShow(Session& s, const StoreOptions& o) {
       j["zone"] = chart->zoneText;
       j["time_difference"] = chart->timeDiff;
       j["time_difference_ew"] = chart->timeDiffEW;
-      s.out << j.dump(2) << "\n";
+      s.out << j.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << "\n";
       return;
     }
     const std::pair<const char*, std::string> rows[] = {
@@ -183,7 +188,7 @@ void PlacesCountries(Session& s, const StoreOptions& o) {
     if (o.json) {
       nlohmann::ordered_json j = nlohmann::ordered_json::array();
       for (const auto& c : countries) j.push_back({{"id", c.id}, {"name", c.name}, {"time_zone_ids", c.timeZoneIds}});
-      s.out << j.dump(2) << "\n";
+      s.out << j.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << "\n";
       return;
     }
     for (const auto& c : countries) s.out << fmt::format("{:>6}  {}\n", c.id, c.name);
@@ -207,7 +212,7 @@ void PlacesCities(Session& s, const StoreOptions& o) {
                      {"lon_ew", c.lonEW},
                      {"coordinates", store::CoordinatesText(c)}});
       }
-      s.out << j.dump(2) << "\n";
+      s.out << j.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << "\n";
       return;
     }
     std::size_t width = 0;
@@ -225,7 +230,7 @@ void PlacesZones(Session& s, const StoreOptions& o) {
       for (const auto& z : zones) {
         j.push_back({{"sno", z.sno}, {"place", z.place}, {"time_difference", z.timeDifference}, {"direction", z.direction}});
       }
-      s.out << j.dump(2) << "\n";
+      s.out << j.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << "\n";
       return;
     }
     std::size_t width = 0;
@@ -276,7 +281,7 @@ void PrintPreferences(Session& s, const store::Preferences& p, bool json) {
     j["language"] = p.language;
     j["custom_year"] = p.customYear;
     j["custom_progress"] = p.customProgress;
-    s.out << j.dump(2) << "\n";
+    s.out << j.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << "\n";
     return;
   }
   const std::pair<const char*, std::string> rows[] = {

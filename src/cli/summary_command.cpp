@@ -21,7 +21,7 @@ void RegisterSummaryCommand(CLI::App& app, Session& session) {
       if (o->json) {
         nlohmann::ordered_json j;
         for (const auto& f : ctx.summary.Fields()) j[f.control] = *f.text;
-        session.out << j.dump(2) << "\n";
+        session.out << j.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << "\n";
         return;
       }
       for (const auto& f : ctx.summary.Fields()) session.out << fmt::format("{:<24}: {}\n", f.label, *f.text);

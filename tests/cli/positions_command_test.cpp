@@ -88,6 +88,8 @@ TEST(PositionsCommand, BadInputNamesTheFieldAndPrintsNothing) {
       {{"positions", "--date", "14/07/1965", "--time", "14:15", "--lat", "17N20", "--lon", "78E30", "--tz", "15E"},
        "--tz \"15E\": a zone is at most 14 hours from Greenwich"},
       {Sample({"--ayanamsa", "lahiri"}), "--ayanamsa \"lahiri\""},
+      // A value is quoted cut short and with its control characters escaped.
+      {Sample({"--ayanamsa", "Lahiri\n" + std::string(100, 'x')}), "--ayanamsa \"Lahiri\\n" + std::string(53, 'x') + "...\""},
       {Sample({"--ayanamsa", "Custom"}), "--zero-year"},
       {Sample({"--ayanamsa", "Custom", "--zero-year", "abc", "--progress", "50"}), "--zero-year \"abc\""},
   };

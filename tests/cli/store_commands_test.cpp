@@ -118,6 +118,15 @@ TEST_F(StoreCommands, ChartsListShowDelete) {
   EXPECT_EQ(RunTool({"charts", "show", std::to_string(velnesh), "--database", Db()}).status, kExitBadInput);
   EXPECT_EQ(RunTool({"charts", "delete", std::to_string(velnesh), "--database", Db()}).status, kExitBadInput);
   EXPECT_EQ(RunTool({"charts", "list", "--database", Db()}).out, ChartLines({{asha, "Asha~14-Jul-1965"}}));
+  // StoredNameWithALineBreakOrBadBytesListsOnItsLine: the list stays one
+  // line a chart, in text and in JSON.
+  const auto odd = Save("Two\nLines\xFF", "Male", 9);
+  const Outcome listed = RunTool({"charts", "list", "--database", Db()});
+  ASSERT_EQ(listed.status, kExitOk) << listed.err;
+  EXPECT_TRUE(Contains(listed.out, std::to_string(odd) + "  Two\\nLines\\xFF~14-Jul-1965\n")) << listed.out;
+  EXPECT_EQ(RunTool({"charts", "list", "--json", "--database", Db()}).status, kExitOk);
+  ASSERT_EQ(RunTool({"charts", "delete", std::to_string(odd), "--database", Db()}).status, kExitOk);
+
   // ChartNumberTooLargeIsRefusedNotClamped.
   for (const char* id : {"99999999999999999999", "-3", "1x"}) {
     const Outcome refused = RunTool({"charts", "delete", id, "--database", Db()});

@@ -80,6 +80,10 @@ TEST_F(SummaryAndConvert, SummaryBadInput) {
   EXPECT_EQ(r.status, kExitBadInput);
   EXPECT_NE(r.err.find("--date \"31/02/1965\""), std::string::npos) << r.err;
   EXPECT_TRUE(r.out.empty());
+  // NameThatIsNotUtf8IsBadInput.
+  const Outcome name = RunTool(Sample({"--name", "Ra\xFFvi"}));
+  EXPECT_EQ(name.status, kExitBadInput);
+  EXPECT_EQ(name.err, "kelvaro-cli: --name \"Ra\\xFFvi\": not valid UTF-8 text\n");
 }
 
 TEST_F(SummaryAndConvert, ConvertBothWays) {
