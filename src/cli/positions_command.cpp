@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
+#include <filesystem>
 #include <fstream>
 #include <nlohmann/json.hpp>
 #include <sstream>
@@ -113,19 +114,52 @@ std::vector<std::string> SplitCsvLine(std::string line) {
   return fields;
 }
 
+// The longest line a batch row may have; a longer one (an endless input with
+// no line break among it) ends the batch instead of filling the memory.
+constexpr std::size_t kMaxBatchLine = 4096;
+
+enum class LineRead { Line, End, TooLong };
+
+LineRead ReadBatchLine(std::istream& in, std::string& line) {
+  line.clear();
+  char c;
+  while (in.get(c)) {
+    if (c == '\n') return LineRead::Line;
+    if (line.size() == kMaxBatchLine) return LineRead::TooLong;
+    line += c;
+  }
+  return line.empty() ? LineRead::End : LineRead::Line;
+}
+
 void RunBatch(const std::string& path, Session& session) {
-  std::ifstream in(path);
-  if (!in) {
-    session.err << "kelvaro-cli: cannot open batch file \"" << path << "\"\n";
+  std::error_code ec;
+  if (std::filesystem::is_directory(path, ec)) {
+    session.err << "kelvaro-cli: batch file \"" << MessageValue(path) << "\" is a folder, not a file\n";
     session.status = kExitFailure;
     return;
   }
+  std::ifstream in(path, std::ios::binary);
+  if (!in) {
+    session.err << "kelvaro-cli: cannot open batch file \"" << MessageValue(path) << "\"\n";
+    session.status = kExitFailure;
+    return;
+  }
+  const auto tooLong = [&](long row) {
+    session.err << "kelvaro-cli: batch file \"" << MessageValue(path) << "\": row " << row << " is longer than "
+                << kMaxBatchLine << " characters; the batch stops there\n";
+    session.status = kExitBadInput;
+  };
   std::string line;
-  if (!std::getline(in, line)) {
-    session.err << "kelvaro-cli: batch file \"" << path << "\" is empty\n";
+  const LineRead first = ReadBatchLine(in, line);
+  if (first == LineRead::TooLong) return tooLong(1);
+  if (first == LineRead::End) {
+    session.err << "kelvaro-cli: batch file \"" << MessageValue(path) << "\" is empty\n";
     session.status = kExitBadInput;
     return;
   }
+  // A byte order mark, as some spreadsheets write one, is no part of the header.
+  if (line.rfind("\xEF\xBB\xBF", 0) == 0) line.erase(0, 3);
+  if (!line.empty() && line.back() == '\r') line.pop_back();
   const std::vector<std::string> header = SplitCsvLine(line);
   const std::vector<std::string> required = {"date", "time", "lat", "lon", "tz", "ayanamsa"};
   const std::vector<std::string> custom = {"date", "time", "lat", "lon", "tz", "ayanamsa", "zero_year", "progress"};
@@ -138,8 +172,13 @@ void RunBatch(const std::string& path, Session& session) {
   long rowNumber = 1;  // the header is row 1
   long rows = 0, rejected = 0, failed = 0;
   std::string buffer;
-  while (std::getline(in, line)) {
+  bool stopped = false;
+  for (LineRead read; (read = ReadBatchLine(in, line)) != LineRead::End;) {
     ++rowNumber;
+    if (read == LineRead::TooLong) {
+      stopped = true;
+      break;
+    }
     if (line.empty() || line == "\r") continue;
     ++rows;
     const std::vector<std::string> f = SplitCsvLine(line);
@@ -177,6 +216,7 @@ void RunBatch(const std::string& path, Session& session) {
     session.err << "kelvaro-cli: " << (rejected + failed) << " of " << rows << " rows rejected\n";
     session.status = rejected > 0 ? kExitBadInput : kExitFailure;
   }
+  if (stopped) tooLong(rowNumber);
 }
 
 }  // namespace

@@ -146,6 +146,26 @@ TEST_F(BatchFile, GoodRowsPrintInOrderAndBadRowsAreCounted) {
   EXPECT_NE(err[3].find("3 of 6 rows rejected"), std::string::npos) << err[3];
 }
 
+// A byte order mark before the header is read past; a folder is named as
+// one; a line with no end (an endless input) stops the batch at the limit,
+// after the rows before it have printed.
+TEST_F(BatchFile, ByteOrderMarkFolderAndEndlessLine) {
+  Write("\xEF\xBB\xBF" "date,time,lat,lon,tz,ayanamsa\r\n14/07/1965,14:15,17N20,78E30,5.5E,Lahiri\r\n");
+  const Outcome bom = RunTool({"positions", "--batch", path_.string()});
+  EXPECT_EQ(bom.status, kExitOk) << bom.err;
+  EXPECT_EQ(Lines(bom.out).size(), 1u);
+
+  const Outcome folder = RunTool({"positions", "--batch", std::filesystem::temp_directory_path().string()});
+  EXPECT_EQ(folder.status, kExitFailure);
+  EXPECT_NE(folder.err.find("is a folder, not a file"), std::string::npos) << folder.err;
+
+  Write("date,time,lat,lon,tz,ayanamsa\n14/07/1965,14:15,17N20,78E30,5.5E,Lahiri\n" + std::string(10000, '\0'));
+  const Outcome endless = RunTool({"positions", "--batch", path_.string()});
+  EXPECT_EQ(endless.status, kExitBadInput);
+  EXPECT_EQ(Lines(endless.out).size(), 1u);
+  EXPECT_NE(endless.err.find("row 3 is longer than 4096 characters"), std::string::npos) << endless.err;
+}
+
 TEST_F(BatchFile, SameAnswerAsOneBirthAtATime) {
   Write("date,time,lat,lon,tz,ayanamsa\n14/07/1965,14:15,17N20,78E30,5.5E,Lahiri\n");
   const Outcome batch = RunTool({"positions", "--batch", path_.string()});
