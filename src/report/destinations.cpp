@@ -1,6 +1,7 @@
 #include "report/destinations.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <atomic>
@@ -36,17 +37,42 @@ void WriteAll(int fd, std::string_view data, const std::filesystem::path& path, 
     if (n <= 0) {
       const int error = n < 0 ? errno : EIO;
       ::close(fd);
-      ::unlink(tmp.c_str());
+      if (!tmp.empty()) ::unlink(tmp.c_str());
       Fail(path, error);
     }
     data.remove_prefix(static_cast<size_t>(n));
   }
 }
 
-void WriteAtomically(const std::filesystem::path& path, std::initializer_list<std::string_view> parts) {
+// A path that is not a regular file (a pipe, a terminal, a device) is written
+// into as it is, never replaced; a pipe that nobody reads is refused rather
+// than waited on.
+void WriteInPlace(const std::filesystem::path& path, std::initializer_list<std::string_view> parts) {
+  const int fd = ::open(path.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+  if (fd < 0) Fail(path, errno == ENXIO ? EPIPE : errno);
+  const int flags = ::fcntl(fd, F_GETFL);
+  if (flags >= 0) ::fcntl(fd, F_SETFL, flags & ~O_NONBLOCK);
+  for (std::string_view part : parts) WriteAll(fd, part, path, {});
+  if (::close(fd) != 0) Fail(path, errno);
+}
+
+void WriteAtomically(const std::filesystem::path& given, std::initializer_list<std::string_view> parts) {
+  // A symbolic link is followed: its target is written, the link stays.
+  std::error_code ec;
+  std::filesystem::path path = given;
+  if (std::filesystem::is_symlink(std::filesystem::symlink_status(given, ec))) {
+    path = std::filesystem::weakly_canonical(given, ec);
+    if (ec) Fail(given, ec.value());
+  }
+  struct stat existing{};
+  const bool exists = ::stat(path.c_str(), &existing) == 0;
+  if (exists && S_ISDIR(existing.st_mode)) Fail(path, EISDIR);
+  if (exists && !S_ISREG(existing.st_mode)) return WriteInPlace(path, parts);
   const std::filesystem::path tmp = TemporaryBeside(path);
   const int fd = ::open(tmp.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
   if (fd < 0) Fail(path, errno);
+  // The file that is replaced keeps its permissions.
+  if (exists) ::fchmod(fd, existing.st_mode & 07777);
   for (std::string_view part : parts) WriteAll(fd, part, path, tmp);
   if (::fsync(fd) != 0) {
     const int error = errno;

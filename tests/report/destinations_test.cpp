@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 #include <csignal>
 #include <filesystem>
@@ -104,6 +105,28 @@ TEST_F(ReportFolder, DirectoryInThePlaceOfTheFileSurvives) {
   EXPECT_TRUE(fs::is_directory(file));
   EXPECT_EQ(Read(file / "kept.txt"), "kept");
   EXPECT_EQ(Entries(), 1u);
+}
+
+// A link is followed and stays a link; a replaced file keeps its
+// permissions; a pipe is written into or refused, never replaced by a file.
+TEST_F(ReportFolder, LinksPermissionsAndPipes) {
+  const fs::path target = folder_ / "real.Txt";
+  Put(target, "old");
+  fs::permissions(target, fs::perms::owner_read | fs::perms::owner_write);
+  const fs::path link = folder_ / "link.Txt";
+  fs::create_symlink(target, link);
+  WriteTextReport(link, kReport);
+  EXPECT_TRUE(fs::is_symlink(link));
+  EXPECT_EQ(Read(target), TextReportBytes(kReport));
+  EXPECT_EQ(fs::status(target).permissions() & fs::perms::all, fs::perms::owner_read | fs::perms::owner_write);
+
+  const fs::path pipe = folder_ / "pipe.Txt";
+  ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+  EXPECT_THROW(WriteTextReport(pipe, kReport), ReportWriteError);  // nobody reads it
+  EXPECT_TRUE(fs::is_fifo(pipe));
+  EXPECT_NO_THROW(WriteTextReport("/dev/null", kReport));
+  EXPECT_TRUE(fs::is_character_file("/dev/null"));
+  EXPECT_EQ(Entries(), 3u);  // no temporary file left
 }
 
 // A write that fails half way, as on a full disk: the file size limit of the
