@@ -104,8 +104,10 @@ void FillCalendarFields(CalculationContext& ctx) {
   b.txtSLunarDate = LunarDateText(sukladi);
   const SolarDate solar =
       ctx.solar.SolarDateOf(b.SummaryMoment, ctx.today(), SunTimesAt(ctx.sunrise, ctx.sunset, in.place));
-  b.txtKaliyugaYear = std::to_string(solar.kaliyugaYear);
-  b.txtSolarDate = SolarDateText(solar);
+  // Where the year table knows no start of the year, say so rather than
+  // show an empty field and a year 0.
+  b.txtKaliyugaYear = solar.found ? std::to_string(solar.kaliyugaYear) : std::string(kYearNotKnown);
+  b.txtSolarDate = solar.found ? SolarDateText(solar) : std::string(kYearNotKnown);
   // The month last found, the Sukladi one, gives the ayana; another word
   // leaves the field as it was.
   if (IsUttarayana(sukladi.month)) b.txtAyana = "Uttrayana";

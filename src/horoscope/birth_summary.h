@@ -36,6 +36,10 @@ struct BirthSummary {
   std::vector<Field> Fields() const;
 };
 
+// What the Kaliyuga year and the solar date say for a moment whose year the
+// year table does not reach.
+inline constexpr const char* kYearNotKnown = "Not known: the year table does not reach this year";
+
 // Fills ctx.summary from the state of the Rasi pass (step 6 of the
 // calculation: the rasi fields hold Rasi positions).
 void FillBirthSummary(CalculationContext& ctx);

@@ -148,6 +148,12 @@ TEST_F(SampleChartRun, NoSubPeriodOfZeroLengthAtBirthAndKartikkaIsDakshinaya) {
   CalculateHoroscope(ctx_);
   EXPECT_NE(ctx_.summary.txtSLunarDate.find("Kartikka"), std::string::npos) << ctx_.summary.txtSLunarDate;
   EXPECT_EQ(ctx_.summary.txtAyana, "Dakshinaya");
+
+  // YearBeforeTheYearTable: said in words, not an empty field and a year 0.
+  s.BirthYear = "1850";
+  CalculateHoroscope(ctx_);
+  EXPECT_EQ(ctx_.summary.txtKaliyugaYear, kYearNotKnown);
+  EXPECT_EQ(ctx_.summary.txtSolarDate, kYearNotKnown);
 }
 
 // PlaceAtZeroDegreesKeepsItsHemisphere: 0 whole degrees keeps the letter's
