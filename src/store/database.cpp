@@ -2,6 +2,7 @@
 
 #include <sqlite3.h>
 
+#include <chrono>
 #include <random>
 #include <stdexcept>
 #include <system_error>
@@ -85,9 +86,33 @@ constexpr const char* kTables[] = {
 
 }  // namespace
 
+namespace {
+
+// A creation in progress is done in seconds; one older than this was left by
+// a run that was killed, and its temporary file (and SQLite's journal of it)
+// can go.
+constexpr auto kStaleCreation = std::chrono::minutes(10);
+
+void RemoveStaleCreations(const fs::path& path) {
+  fs::path folder = path.parent_path();
+  if (folder.empty()) folder = ".";
+  const std::string prefix = path.filename().string() + ".new-";
+  std::error_code ec;
+  const auto now = fs::file_time_type::clock::now();
+  for (const auto& entry : fs::directory_iterator(folder, ec)) {
+    const std::string name = entry.path().filename().string();
+    if (name.rfind(prefix, 0) != 0 || !entry.is_regular_file(ec)) continue;
+    const auto written = entry.last_write_time(ec);
+    if (!ec && now - written > kStaleCreation) RemoveQuietly(entry.path());
+  }
+}
+
+}  // namespace
+
 Database::Database(const fs::path& path, const OpenOptions& options) : path_(path) {
   const std::vector<Migration>& migrations = options.migrations.empty() ? SchemaMigrations() : options.migrations;
   CheckSteps(migrations);
+  if (!options.readOnly) RemoveStaleCreations(path_);
 
   std::error_code ec;
   const fs::file_status status = fs::status(path_, ec);

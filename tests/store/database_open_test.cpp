@@ -2,6 +2,10 @@
 // are not ours, against real files in a fresh folder per test.
 #include <gtest/gtest.h>
 
+#include <fstream>
+
+#include <chrono>
+
 #include <SQLiteCpp/SQLiteCpp.h>
 
 #include "store/chart_store.h"
@@ -86,6 +90,20 @@ TEST(DatabaseOpen, FailedCreationLeavesNothingBehind) {
   options.migrations.push_back({2, [](SQLite::Database&) { throw std::runtime_error("step two broke"); }});
   ExpectStoreError(path, "step two broke", [&] { Database db(path, options); });
   EXPECT_TRUE(folder.Entries().empty());
+}
+
+// A creation that a killed run left half done is removed at the next open; a
+// fresh one, perhaps another copy of the program at work, is left alone.
+TEST(DatabaseOpen, TemporaryFilesOfAKilledRunAreRemoved) {
+  TempFolder folder;
+  const auto path = folder / "DBMirvaneBasic.db";
+  const auto stale = folder / "DBMirvaneBasic.db.new-123456";
+  const auto fresh = folder / "DBMirvaneBasic.db.new-789";
+  for (const auto& p : {stale, fresh}) std::ofstream(p) << "half a database";
+  std::filesystem::last_write_time(stale, std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
+  { Database db(path); }
+  EXPECT_FALSE(std::filesystem::exists(stale));
+  EXPECT_TRUE(std::filesystem::exists(fresh));
 }
 
 TEST(DatabaseOpen, ReadOnlyOpenReadsAndRefusesEveryWrite) {
