@@ -66,20 +66,17 @@ std::string TwentyFourHourText(const std::string& hour, bool pm) {
   return h ? std::to_string(*h + 12) : hour;
 }
 
-void HandOverBirthForm(const BirthFormFields& f, HoroscopeState& s) {
-  const std::string hour = TwentyFourHourText(store::Trim(f.hour), f.pm);
-  const std::string minute = store::Trim(f.minute);
-  const std::string text = DateText(f) + " " + hour + ":" + minute + ": 00";
-  const auto moment = ParseDateTime(text);
-  if (!moment) throw CalculationError("The birth date and time \"" + text + "\" is not a valid moment");
+// The birth details of the state from the form's fields, the hour already on
+// the 24-hour clock and the moment already made from the texts.
+void SetBirthDetails(const BirthFormFields& f, const std::string& hour24, OleDate moment, HoroscopeState& s) {
   s.ChartName = f.name;
   s.BirthDay = store::Trim(f.day);
   s.BirthMonth = store::Trim(f.month);
   s.BirthYear = store::Trim(f.year);
-  s.BirthHour = hour;
-  s.BirthMinute = minute;
+  s.BirthHour = hour24;
+  s.BirthMinute = store::Trim(f.minute);
   s.BirthTimeZoneName = f.zone;
-  s.BirthMoment = *moment;
+  s.BirthMoment = moment;
   s.BirthGender = f.gender;
   s.BirthCity = f.city;
   s.BirthCountry = f.country;
@@ -92,6 +89,15 @@ void HandOverBirthForm(const BirthFormFields& f, HoroscopeState& s) {
   s.LonMin = f.lonMin;
   s.TimeDiff = f.timeDiff;
   s.TimeDiffEW = f.timeDiffEW;
+}
+
+void HandOverBirthForm(const BirthFormFields& f, HoroscopeState& s) {
+  const std::string hour = TwentyFourHourText(store::Trim(f.hour), f.pm);
+  const std::string text =
+      BirthMomentText(store::Trim(f.day), store::Trim(f.month), store::Trim(f.year), hour, store::Trim(f.minute));
+  const auto moment = ParseDateTime(text);
+  if (!moment) throw CalculationError("The birth date and time \"" + text + "\" is not a valid moment");
+  SetBirthDetails(f, hour, *moment, s);
 }
 
 store::ChartFields ChartFieldsOf(const BirthFormFields& f, std::int64_t countryId, std::int64_t zoneSno) {
@@ -185,29 +191,27 @@ std::optional<std::string> ApplyLastChart(const store::LastChart& c, HoroscopeSt
   for (const Letter& l : letters) {
     if (*l.text != l.a && *l.text != l.b) return "the setting " + std::string(l.key) + " \"" + *l.text + "\" is not " + l.a + " or " + l.b;
   }
-  const std::string text = c.day + "/" + c.month + "/" + c.year + " " + c.hour + ":" + c.minute + ": 00";
+  const std::string text = BirthMomentText(c.day, c.month, c.year, c.hour, c.minute);
   const auto moment = ParseDateTime(text);
   if (!moment) return "the settings' birth date and time \"" + text + "\" is not a valid moment";
-  s.ChartName = c.name;
-  s.BirthDay = c.day;
-  s.BirthMonth = c.month;
-  s.BirthYear = c.year;
-  s.BirthHour = c.hour;
-  s.BirthMinute = c.minute;
-  s.BirthTimeZoneName.clear();
-  s.BirthMoment = *moment;
-  s.BirthGender = c.sex;
-  s.BirthCity = c.city;
-  s.BirthCountry = c.country;
-  s.LatNS = c.latNS;
-  s.LonEW = c.lonEW;
-  s.TimeDiffEW = c.timeDiffEW;
-  s.LatDeg = numbers[0].value;
-  s.LatMin = numbers[1].value;
-  s.LonDeg = numbers[2].value;
-  s.LonMin = numbers[3].value;
-  s.TimeDiff = numbers[4].value;
-  s.AyanamsaInForce = s.AyanamsaName;
+  BirthFormFields f;
+  f.name = c.name;
+  f.gender = c.sex;
+  f.day = c.day;
+  f.month = c.month;
+  f.year = c.year;
+  f.minute = c.minute;
+  f.city = c.city;
+  f.country = c.country;  // the zone's name is not kept: it stays empty
+  f.latNS = c.latNS;
+  f.lonEW = c.lonEW;
+  f.timeDiffEW = c.timeDiffEW;
+  f.latDeg = numbers[0].value;
+  f.latMin = numbers[1].value;
+  f.lonDeg = numbers[2].value;
+  f.lonMin = numbers[3].value;
+  f.timeDiff = numbers[4].value;
+  SetBirthDetails(f, c.hour, *moment, s);
   return std::nullopt;
 }
 

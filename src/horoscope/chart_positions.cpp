@@ -34,8 +34,7 @@ void ComputeChartPositions(CalculationContext& ctx, double division) {
   HoroscopeState& s = ctx.state;
 
   // 1. The moment in force, rebuilt from the birth text fields.
-  const std::string text =
-      s.BirthDay + "/" + s.BirthMonth + "/" + s.BirthYear + " " + s.BirthHour + ":" + s.BirthMinute + ": 00";
+  const std::string text = BirthMomentText(s.BirthDay, s.BirthMonth, s.BirthYear, s.BirthHour, s.BirthMinute);
   const auto moment = ParseDateTime(text);
   if (!moment) throw CalculationError("The birth date and time \"" + text + "\" is not a valid moment");
   s.BirthMomentDate = *moment;

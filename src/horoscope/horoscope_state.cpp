@@ -150,4 +150,9 @@ void LoadNamesForLanguage(HoroscopeState& state) {
   }
 }
 
+std::string BirthMomentText(const std::string& day, const std::string& month, const std::string& year,
+                            const std::string& hour, const std::string& minute) {
+  return day + "/" + month + "/" + year + " " + hour + ":" + minute + ": 00";
+}
+
 }  // namespace kelvaro

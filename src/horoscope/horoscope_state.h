@@ -75,6 +75,12 @@ struct HoroscopeState {
   const std::string& LongNameOf(Body body) const;
 };
 
+// The text the birth's moment is read from: day "/" month "/" year " " hour
+// ":" minute ": 00" (the hour on the 24-hour clock; the blank after the
+// second colon is part of it).
+std::string BirthMomentText(const std::string& day, const std::string& month, const std::string& year,
+                            const std::string& hour, const std::string& minute);
+
 // What the analysis steps read of the state.
 ChartData ChartDataOf(const HoroscopeState& state);
 

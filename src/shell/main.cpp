@@ -3,15 +3,13 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QSettings>
-#include <QStandardPaths>
 
 #include "shell/main_window.h"
 #include "store/database_location.h"
+#include "store/store_error.h"
 
 int main(int argc, char** argv) {
   QApplication app(argc, argv);
-  // No organisation: the data folder is then ~/.local/share/Kelvaro, the
-  // command-line tool's.
   QApplication::setApplicationName("Kelvaro");
   QApplication::setApplicationVersion("2.4");
 
@@ -28,10 +26,16 @@ int main(int argc, char** argv) {
 
   QSettings settings("Kelvaro", "Kelvaro");
   kelvaro::shell::MainWindow::Options options;
-  options.databasePath = parser.isSet(database)
-                             ? parser.value(database)
-                             : QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + "/" +
-                                   kelvaro::store::kDatabaseFileName;
+  if (parser.isSet(database)) {
+    options.databasePath = parser.value(database);
+  } else {
+    // The command-line tool's own rule, so that both always open one file.
+    // Without a home folder the path stays empty and the start says so.
+    try {
+      options.databasePath = QString::fromStdString(kelvaro::store::DefaultDatabasePath().string());
+    } catch (const kelvaro::store::StoreError&) {
+    }
+  }
   options.settings = &settings;
   kelvaro::shell::MainWindow window(options);
   window.show();

@@ -184,6 +184,9 @@ void MainWindow::HideProgress() {
 
 bool MainWindow::OpenDatabase() {
   try {
+    if (options_.databasePath.isEmpty()) {
+      throw store::StoreError("No place for the database: neither XDG_DATA_HOME nor HOME names a folder");
+    }
     const QFileInfo file(options_.databasePath);
     if (!QDir().mkpath(file.absolutePath())) {
       throw store::StoreError("Cannot create the data folder \"" + Std(file.absolutePath()) + "\"");
@@ -218,9 +221,9 @@ bool MainWindow::Start() {
     owner_ = OwnerOf(store::LetterheadOf(*db_));
     const store::LastChart last = store::ReadLastChart(settingsStore_);
     if (const auto problem = ApplyLastChart(last, ctx_->state)) {
+      // ApplyLastChart left the state as the context made it: the sample chart.
       ShowError(this, tr("The last chart could not be restored: %1. The sample chart is shown instead.")
                           .arg(Qs(*problem)));
-      ApplyLastChart(store::ReadLastChart(store::InMemorySettings()), ctx_->state);
     }
   } catch (const std::exception& e) {
     HideProgress();

@@ -54,11 +54,14 @@ PrintView::PrintView(QWidget* parent)
 }
 
 void PrintView::Refresh(const ViewSource& source) {
-  without_ = ScreenText(ComposeReport(ReportInputOf(source.ctx, source.owner, false)));
-  with_ = ScreenText(ComposeReport(ReportInputOf(source.ctx, source.owner, true)));
+  ctx_ = &source.ctx;
+  owner_ = source.owner;
   ShowText();
 }
 
-void PrintView::ShowText() { text_->setPlainText(withAntra_->isChecked() ? with_ : without_); }
+void PrintView::ShowText() {
+  if (!ctx_) return;
+  text_->setPlainText(ScreenText(ComposeReport(ReportInputOf(*ctx_, owner_, withAntra_->isChecked()))));
+}
 
 }  // namespace kelvaro::shell

@@ -18,11 +18,16 @@ class PrintView : public ViewPage {
   QRadioButton& WithAntra() { return *withAntra_; }
 
  private:
+  // Composes the report of the last calculation, without or with antra, as
+  // the choice stands.
   void ShowText();
   QRadioButton* withoutAntra_;
   QRadioButton* withAntra_;
   QPlainTextEdit* text_;
-  QString without_, with_;
+  // The context lives as long as the main window; its models are always
+  // those of the last complete calculation.
+  const CalculationContext* ctx_ = nullptr;
+  OwnerDetails owner_;
 };
 
 }  // namespace kelvaro::shell
