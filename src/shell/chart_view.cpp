@@ -16,9 +16,6 @@ namespace kelvaro::shell {
 
 namespace {
 
-// The navamsa division size, as the calculation writes it.
-constexpr double kNavamsaDivision = 3.33333333333333;
-
 const char* TitleOf(ChartKind kind) {
   switch (kind) {
     case ChartKind::Rasi:
@@ -41,7 +38,7 @@ std::optional<render::ChartPicture> PictureOfChart(const CalculationContext& ctx
   // The houses of the Bhava chart run sign by sign from the Lagna's sign, so
   // it marks the Rasi Lagna; the Navamsa marks the Lagna's navamsa sign.
   const int lagna = kind == ChartKind::Navamsa ? RasiOfLongitude(ctx.state.LagnaLon, kNavamsaDivision)
-                                               : RasiOfLongitude(ctx.state.LagnaLon, 30);
+                                               : RasiOfLongitude(ctx.state.LagnaLon, kRasiDivision);
   return render::PictureOf(window, *frame, lagna, TitleOf(kind));
 }
 
