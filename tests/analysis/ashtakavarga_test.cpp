@@ -148,11 +148,9 @@ TEST(Ashtakavarga, CaptionsByLanguage) {
       {"English",
        {"Zodiac       ", " Sun    ", "Moon   ", "Mars ", "Mercury", "Jupiter", "Venus", "Saturn", "Asc   *",
         "Rahu *", "Total ", "Total With * "}},
-      {"Tamil",
-       {"Zodiac       ", " Sun    ", "Moon   ", "Mars ", "Mercury", "Jupiter", "Venus", "Saturn", "Asc   *",
-        "Rahu *", "Total ", "Total With * "}},
   };
-  for (const Case& c : cases) {
+  // Any other language gets the English captions.
+  for (const Case& c : {cases[0], cases[1], Case{"Tamil", cases[1].captions}}) {
     ChartData chart = ChartWithRasis({1, 2, 3, 4, 5, 6, 7, 8});
     chart.language = c.language;
     chart.RasiNames[0] = "Mesha";

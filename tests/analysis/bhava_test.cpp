@@ -13,6 +13,7 @@
 
 #include "common/calculation_error.h"
 #include "support/sample_chart.h"
+#include "support/test_data.h"
 
 namespace kelvaro {
 namespace {
@@ -218,20 +219,8 @@ TEST(Bhava, SampleChart) {
   ASSERT_EQ(g.Rows(), 13);
   EXPECT_EQ(g.RowTexts(0), (std::vector<std::string>{"House  ", "  Start Bhava ", " Mid Bhava    ", " Sandhi          ",
                                                      " Planets                                                       "}));
-  const std::vector<std::vector<std::string>> equalRows = {
-      {"1", "190.22.3", "205.14.50", "220.22.3", "Asc "},
-      {"2", "220.22.3", "235.29.17", "250.36.30", "Ket"},
-      {"3", "250.36.30", "265.43.43", "280.50.56", "Moo"},
-      {"4", "280.50.56", "295.58.10", "310.50.56", ""},
-      {"5", "310.50.56", "325.43.43", "340.36.30", "Sat"},
-      {"6", "340.36.30", "355.29.17", "10.22.3", ""},
-      {"7", "10.22.3", "25.14.50", "40.22.3", ""},
-      {"8", "40.22.3", "55.29.17", "70.36.30", "Jup Rah"},
-      {"9", "70.36.30", "85.43.43", "100.50.56", "Sun"},
-      {"10", "100.50.56", "115.58.10", "130.50.56", "Mer Ven"},
-      {"11", "130.50.56", "145.43.43", "160.36.30", ""},
-      {"12", "160.36.30", "175.29.17", "190.22.3", "Mar"},
-  };
+  const auto equalRows = testing::TestDataTable("analysis/bhava_sample_equal.txt");
+  ASSERT_EQ(equalRows.size(), 12u);
   for (size_t k = 0; k < 12; ++k) EXPECT_EQ(g.RowTexts(static_cast<int>(k) + 1), equalRows[k]) << k + 1;
 
   const Grid& d = t.mshBhavaDetails;

@@ -40,23 +40,26 @@ clsTimes Timings(int day, OleDate sunrise, OleDate sunset, OleDate nextSunrise) 
 // A day of exactly twelve hours (06:00 to 18:00, next sunrise 06:00): eighths
 // of 5400 s (1:30) and thirtieths of 1440 s (0:24). Worked by hand from the
 // almanac's rows: Rahukaal and Gulika count day eighths from 06:00, the night
-// Gulika night eighths from 18:00, Maandi thirtieths.
-TEST(Times, GulikaMaandiAndRahukaalForEachWeekday) {
+// Gulika night eighths from 18:00, Maandi thirtieths. Yamagandam (Jupiter's
+// part) and Gulika kalam (Saturn's part) are published everywhere for such a
+// day; each part lasts 1:30 and Gulika rises as its part ends.
+TEST(Times, WeekdayPeriodsOfATwelveHourDay) {
   struct Case {
     const char* weekday;
-    int rahuH, rahuM;                  // RahukaalStart; the end is 1:30 later
+    int rahuH, rahuM;
     int gulikaDayH, gulikaDayM;
     int gulikaNightDay, gulikaNightH, gulikaNightM;  // day offset: 1 = after midnight
     int mandiDayH, mandiDayM;
     int mandiNightDay, mandiNightH, mandiNightM;
+    int yamaH, yamaM, gulikaKalamH, gulikaKalamM;
   } cases[] = {
-      {"Sunday", 16, 30, 16, 30, 0, 22, 30, 16, 24, 0, 22, 0},    // 7, 7, 3, 26, 10
-      {"Monday", 7, 30, 15, 0, 0, 21, 0, 14, 48, 0, 20, 24},      // 1, 6, 2, 22, 6
-      {"Tuesday", 15, 0, 13, 30, 0, 19, 30, 13, 12, 0, 18, 48},   // 6, 5, 1, 18, 2
-      {"Wednesday", 12, 0, 12, 0, 1, 4, 30, 11, 36, 1, 4, 24},    // 4, 4, 7, 14, 26
-      {"Thursday", 13, 30, 10, 30, 1, 3, 0, 10, 0, 1, 2, 48},     // 5, 3, 6, 10, 22
-      {"Friday", 10, 30, 9, 0, 1, 1, 30, 8, 24, 1, 1, 12},        // 3, 2, 5, 6, 18
-      {"Saturday", 9, 0, 7, 30, 1, 0, 0, 6, 48, 0, 23, 36},       // 2, 1, 4, 2, 14
+      {"Sunday", 16, 30, 16, 30, 0, 22, 30, 16, 24, 0, 22, 0, 12, 0, 15, 0},      // 7, 7, 3, 26, 10
+      {"Monday", 7, 30, 15, 0, 0, 21, 0, 14, 48, 0, 20, 24, 10, 30, 13, 30},      // 1, 6, 2, 22, 6
+      {"Tuesday", 15, 0, 13, 30, 0, 19, 30, 13, 12, 0, 18, 48, 9, 0, 12, 0},      // 6, 5, 1, 18, 2
+      {"Wednesday", 12, 0, 12, 0, 1, 4, 30, 11, 36, 1, 4, 24, 7, 30, 10, 30},     // 4, 4, 7, 14, 26
+      {"Thursday", 13, 30, 10, 30, 1, 3, 0, 10, 0, 1, 2, 48, 6, 0, 9, 0},         // 5, 3, 6, 10, 22
+      {"Friday", 10, 30, 9, 0, 1, 1, 30, 8, 24, 1, 1, 12, 15, 0, 7, 30},          // 3, 2, 5, 6, 18
+      {"Saturday", 9, 0, 7, 30, 1, 0, 0, 6, 48, 0, 23, 36, 13, 30, 6, 0},         // 2, 1, 4, 2, 14
   };
   for (int i = 0; i < 7; ++i) {
     const auto& c = cases[i];
@@ -69,15 +72,19 @@ TEST(Times, GulikaMaandiAndRahukaalForEachWeekday) {
     EXPECT_EQ(Text(t.GulikaRise_Night), Text(At(day + c.gulikaNightDay, c.gulikaNightH, c.gulikaNightM))) << c.weekday;
     EXPECT_EQ(Text(t.MandiRise_Day), Text(At(day, c.mandiDayH, c.mandiDayM))) << c.weekday;
     EXPECT_EQ(Text(t.MandiRise_Night), Text(At(day + c.mandiNightDay, c.mandiNightH, c.mandiNightM))) << c.weekday;
+    EXPECT_EQ(Text(t.yamaghanta2Start_Day), Text(At(day, c.yamaH, c.yamaM))) << c.weekday;
+    EXPECT_EQ(DateDiff("s", t.yamaghanta2Start_Day, t.yamaghanta2End_Day), 5400) << c.weekday;
+    EXPECT_EQ(Text(t.GulikaStart_Day), Text(At(day, c.gulikaKalamH, c.gulikaKalamM))) << c.weekday;
+    EXPECT_EQ(DateDiff("s", t.GulikaStart_Day, t.GulikaEnd_Day), 5400) << c.weekday;
+    EXPECT_EQ(t.GulikaRise_Day, t.GulikaEnd_Day) << c.weekday;
+    EXPECT_EQ(t.GulikaRise_Night, t.GulikaEnd_Night) << c.weekday;
   }
 }
 
 TEST(Times, SundayGulikaAndRahukaalBothBeginAt1630) {
   const int day = kSundayOfJanuary2023;
   const clsTimes t = Timings(day, At(day, 6, 0), At(day, 18, 0), At(day + 1, 6, 0));
-  EXPECT_EQ(Text(t.GulikaRise_Day), Text(At(day, 16, 30)));
-  EXPECT_EQ(Text(t.RahukaalStart), Text(At(day, 16, 30)));
-  EXPECT_EQ(Text(t.RahukaalEnd), Text(At(day, 18, 0)));
+  EXPECT_EQ(Text(t.RahukaalEnd), Text(At(day, 18, 0)));  // Gulika and Rahukaal both begin 16:30 (above)
   // The Sunday layout of the other periods, element numbers of the eighths.
   EXPECT_EQ(Text(t.vaarvelaStart), Text(At(day, 10, 30)));  // 3
   EXPECT_EQ(Text(t.vaarvelaEnd), Text(At(day, 12, 0)));     // 4
@@ -91,33 +98,6 @@ TEST(Times, SundayGulikaAndRahukaalBothBeginAt1630) {
   EXPECT_EQ(Text(t.KaalratriEnd), Text(At(day + 1, 3, 0)));       // night 6
   EXPECT_EQ(Text(t.GulikaStart_Night), Text(At(day, 21, 0)));     // night 2
   EXPECT_EQ(Text(t.GulikaEnd_Night), Text(At(day, 22, 30)));      // night 3
-}
-
-// The weekday rows left open follow the lords of the eighths. Two of them are
-// published everywhere for a 06:00 to 18:00 day: Yamagandam (Jupiter's part)
-// and Gulika kalam (Saturn's part).
-TEST(Times, YamagandamAndGulikaKalamMatchThePublishedTable) {
-  struct Case {
-    const char* weekday;
-    int yamaH, yamaM;      // start; each lasts 1:30
-    int gulikaH, gulikaM;  // start
-  } cases[] = {
-      {"Sunday", 12, 0, 15, 0},   {"Monday", 10, 30, 13, 30}, {"Tuesday", 9, 0, 12, 0},
-      {"Wednesday", 7, 30, 10, 30}, {"Thursday", 6, 0, 9, 0}, {"Friday", 15, 0, 7, 30},
-      {"Saturday", 13, 30, 6, 0},
-  };
-  for (int i = 0; i < 7; ++i) {
-    const auto& c = cases[i];
-    const int day = kSundayOfJanuary2023 + i;
-    const clsTimes t = Timings(day, At(day, 6, 0), At(day, 18, 0), At(day + 1, 6, 0));
-    EXPECT_EQ(Text(t.yamaghanta2Start_Day), Text(At(day, c.yamaH, c.yamaM))) << c.weekday;
-    EXPECT_EQ(DateDiff("s", t.yamaghanta2Start_Day, t.yamaghanta2End_Day), 5400) << c.weekday;
-    EXPECT_EQ(Text(t.GulikaStart_Day), Text(At(day, c.gulikaH, c.gulikaM))) << c.weekday;
-    EXPECT_EQ(DateDiff("s", t.GulikaStart_Day, t.GulikaEnd_Day), 5400) << c.weekday;
-    // Gulika rises as its part ends.
-    EXPECT_EQ(t.GulikaRise_Day, t.GulikaEnd_Day) << c.weekday;
-    EXPECT_EQ(t.GulikaRise_Night, t.GulikaEnd_Night) << c.weekday;
-  }
 }
 
 // Wednesday, worked by hand: the day's eighths belong to Mercury, Jupiter,
@@ -252,12 +232,7 @@ TEST(Times, DoGhatiMuhurtaLists) {
 
 // A second call replaces the lists rather than appending to them.
 TEST(Times, SecondCallStartsTheListsAfresh) {
-  clsTimes t;
-  t.currentdate = At(4, 10, 0);
-  t.Sunrisetime = At(4, 6, 0);
-  t.Sunsettime = At(4, 18, 0);
-  t.SunRiseNexttime = At(5, 6, 0);
-  t.findtimes();
+  clsTimes t = Timings(4, At(4, 6, 0), At(4, 18, 0), At(5, 6, 0));
   t.findtimes();
   EXPECT_EQ(Split(t.HoraName_DayTemp).size(), 12u);
   EXPECT_EQ(Split(t.DoGhatiMuhurtaName_Temp).size(), 30u);

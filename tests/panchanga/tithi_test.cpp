@@ -81,25 +81,15 @@ TEST(Tithi, WorkedElongations) {
       // Sun above Moon: Moon 10 + 360 = 370, elongation 20, row 2 (12, 24],
       // 8 degrees in, past 6: second karana.
       {"wrap", 10, 350, {2, "Dwitiya", "Bright", "Kaulav"}},
-      // 112 - 100 = 12: upper bound of row 1, 12 in: second karana.
-      {"elongation 12", 112, 100, {1, "Pratipada", "Bright", "Bava"}},
-      // 354.5: row 30 (348, 360], 6.5 in.
-      {"elongation 354.5", 354.5, 0, {30, "Amavashya", "Dark", "Naga"}},
       // The sample chart: 275.4562 - 88.3176 = 187.1386, row 16 (180, 192],
       // 187.1386 - 180 = 7.1386 in, past 6: second karana of row 16.
       {"sample chart", 275.4562, 88.3176, {16, "Pratipada", "Dark", "Kaulava"}},
-      // Sun 359.5 above Moon 0: 360 - 359.5 = 0.5, row 1, first half.
-      {"wrap just past new moon", 0, 359.5, {1, "Pratipada", "Bright", "Kintughna"}},
       // Sun 6 above Moon 5: 365 - 6 = 359, row 30, 11 in.
       {"wrap just before new moon", 5, 6, {30, "Amavashya", "Dark", "Naga"}},
-      // Moon 360, Sun 0: 360 is row 30's upper bound, included.
-      {"elongation 360", 360, 0, {30, "Amavashya", "Dark", "Naga"}},
       // Moon 0, Sun 360: Sun above, Moon becomes 360, elongation 0.
       {"Sun at 360", 0, 360, {1, "Pratipada", "Bright", "Kintughna"}},
       // Full moon: 270 - 90 = 180, row 15's upper bound, second half.
       {"full moon exact", 270, 90, {15, "Purnima", "Bright", "Bav"}},
-      // 200.25 and 20.25 are exact in binary, so the difference is 180 exactly.
-      {"full moon from quarters", 200.25, 20.25, {15, "Purnima", "Bright", "Bav"}},
   };
   for (const Case& c : cases) {
     SCOPED_TRACE(c.why);
