@@ -10,6 +10,8 @@
 #include "cli/database_option.h"
 #include "common/calculation_error.h"
 #include "common/date_text.h"
+#include "common/text_checks.h"
+#include "horoscope/birth_form.h"
 #include "panchanga/time_converters.h"
 #include "store/city_master.h"
 #include "store/country_master.h"
@@ -81,6 +83,15 @@ void RunConvert(const ConvertOptions& o, Conversion conversion, Session& session
     }
     if (!zone) {
       session.err << "kelvaro-cli: Select Timezone\n";
+      session.status = kExitBadInput;
+      return;
+    }
+    BirthFormFields place;
+    place.latDeg = city->latDeg, place.latNS = city->latNS, place.latMin = city->latMin;
+    place.lonDeg = city->lonDeg, place.lonEW = city->lonEW, place.lonMin = city->lonMin;
+    place.timeDiff = zone->timeDifference, place.timeDiffEW = zone->direction;
+    if (const auto problem = PlaceProblem(place, kStoredColumns)) {
+      session.err << "kelvaro-cli: " << MessageValue(city->name) << ": " << *problem << "\n";
       session.status = kExitBadInput;
       return;
     }

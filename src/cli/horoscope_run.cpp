@@ -28,7 +28,13 @@ bool ApplySavedChart(store::Database& db, std::int64_t sno, HoroscopeState& s, S
     return false;
   }
   const auto country = store::CountryById(db, chart->countryId);
-  HandOverBirthForm(FormFieldsOf(*chart, country ? country->name : std::string()), s);
+  const BirthFormFields form = FormFieldsOf(*chart, country ? country->name : std::string());
+  if (const auto problem = PlaceProblem(form, kStoredColumns)) {
+    session.err << "kelvaro-cli: chart " << sno << ": " << *problem << "\n";
+    session.status = kExitBadInput;
+    return false;
+  }
+  HandOverBirthForm(form, s);
   return true;
 }
 

@@ -1,11 +1,14 @@
 #include "horoscope/birth_form.h"
 
 #include <cctype>
+#include <cmath>
+#include <limits>
 #include <string_view>
 
 #include "common/calculation_error.h"
 #include "common/date_text.h"
 #include "common/number_rules.h"
+#include "common/text_checks.h"
 #include "store/text_rules.h"
 
 namespace kelvaro {
@@ -97,6 +100,7 @@ void HandOverBirthForm(const BirthFormFields& f, HoroscopeState& s) {
       BirthMomentText(store::Trim(f.day), store::Trim(f.month), store::Trim(f.year), hour, store::Trim(f.minute));
   const auto moment = ParseDateTime(text);
   if (!moment) throw CalculationError("The birth date and time \"" + text + "\" is not a valid moment");
+  if (const auto problem = PlaceProblem(f, kStoredColumns)) throw CalculationError(*problem);
   SetBirthDetails(f, hour, *moment, s);
 }
 
@@ -168,29 +172,47 @@ store::LastChart LastChartOf(const BirthFormFields& f) {
   return c;
 }
 
-std::optional<std::string> ApplyLastChart(const store::LastChart& c, HoroscopeState& s) {
-  struct Number {
-    const char* key;
-    const std::string* text;
+std::optional<std::string> PlaceProblem(const BirthFormFields& f, const PlaceFieldNames& n) {
+  const struct {
+    const char* name;
+    double value;
     double limit;
-    double value = 0;
-  };
-  Number numbers[] = {{"LatDeg", &c.latDeg, 90}, {"LatMin", &c.latMin, 59.999},  {"LonDeg", &c.lonDeg, 180},
-                      {"LonMin", &c.lonMin, 59.999}, {"TimeDiff", &c.timeDiff, 14}};
-  for (Number& n : numbers) {
-    const auto v = store::NumericValue(*n.text);
-    if (!v || *v < 0 || *v > n.limit) return "the setting " + std::string(n.key) + " \"" + *n.text + "\" is not a number from 0 to " + NumberText(n.limit);
-    n.value = *v;
+    bool below;  // minutes stop below 60; degrees and hours may reach their limit
+  } numbers[] = {{n.latDeg, f.latDeg, 90, false}, {n.latMin, f.latMin, 60, true},  {n.lonDeg, f.lonDeg, 180, false},
+                 {n.lonMin, f.lonMin, 60, true},  {n.timeDiff, f.timeDiff, 14, false}};
+  for (const auto& x : numbers) {
+    // Written so that NaN, which fails every comparison, is refused too.
+    const bool fits = x.value >= 0 && (x.below ? x.value < x.limit : x.value <= x.limit);
+    if (!fits) {
+      const std::string shown = std::isnan(x.value) ? "is not a number" : NumberText(x.value) + " is not";
+      return std::string(n.where) + " " + x.name + " " + shown + " from 0 to " + (x.below ? "below " : "") +
+             NumberText(x.limit);
+    }
   }
-  struct Letter {
-    const char* key;
-    const std::string* text;
+  if ((f.latDeg == 90 && f.latMin > 0) || (f.lonDeg == 180 && f.lonMin > 0)) {
+    const bool lat = f.latDeg == 90 && f.latMin > 0;
+    return std::string(n.where) + " " + (lat ? n.latMin : n.lonMin) + " " + NumberText(lat ? f.latMin : f.lonMin) +
+           " takes the place beyond " + (lat ? "90" : "180") + " degrees";
+  }
+  const struct {
+    const char* name;
+    const std::string& text;
     const char* a;
     const char* b;
-  } letters[] = {{"LatNS", &c.latNS, "N", "S"}, {"LonEW", &c.lonEW, "E", "W"}, {"TimeDiffEW", &c.timeDiffEW, "E", "W"}};
-  for (const Letter& l : letters) {
-    if (*l.text != l.a && *l.text != l.b) return "the setting " + std::string(l.key) + " \"" + *l.text + "\" is not " + l.a + " or " + l.b;
+  } letters[] = {{n.latNS, f.latNS, "N", "S"}, {n.lonEW, f.lonEW, "E", "W"}, {n.timeDiffEW, f.timeDiffEW, "E", "W"}};
+  for (const auto& l : letters) {
+    if (l.text != l.a && l.text != l.b) {
+      return std::string(n.where) + " " + l.name + " \"" + MessageValue(l.text) + "\" is not " + l.a + " or " + l.b;
+    }
   }
+  return std::nullopt;
+}
+
+std::optional<std::string> ApplyLastChart(const store::LastChart& c, HoroscopeState& s) {
+  // A key that is not a number reads as NaN, which the place check refuses.
+  const auto number = [](const std::string& text) {
+    return store::NumericValue(text).value_or(std::numeric_limits<double>::quiet_NaN());
+  };
   const std::string text = BirthMomentText(c.day, c.month, c.year, c.hour, c.minute);
   const auto moment = ParseDateTime(text);
   if (!moment) return "the settings' birth date and time \"" + text + "\" is not a valid moment";
@@ -206,11 +228,12 @@ std::optional<std::string> ApplyLastChart(const store::LastChart& c, HoroscopeSt
   f.latNS = c.latNS;
   f.lonEW = c.lonEW;
   f.timeDiffEW = c.timeDiffEW;
-  f.latDeg = numbers[0].value;
-  f.latMin = numbers[1].value;
-  f.lonDeg = numbers[2].value;
-  f.lonMin = numbers[3].value;
-  f.timeDiff = numbers[4].value;
+  f.latDeg = number(c.latDeg);
+  f.latMin = number(c.latMin);
+  f.lonDeg = number(c.lonDeg);
+  f.lonMin = number(c.lonMin);
+  f.timeDiff = number(c.timeDiff);
+  if (auto problem = PlaceProblem(f, kSettingKeys)) return problem;
   SetBirthDetails(f, c.hour, *moment, s);
   return std::nullopt;
 }

@@ -58,7 +58,8 @@ std::string TwentyFourHourText(const std::string& hour, bool pm);
 // "&OK" after the checks: the name, date, time, place and zone into the birth
 // details, the moment into BirthMoment, and the ayanamsa preference into
 // AyanamsaInForce. Raises CalculationError when the texts make no moment
-// (an hour of 24 passes the checks and fails here).
+// (an hour of 24 passes the checks and fails here), and when the place or
+// zone, as the store gave them, is one no birth can have (PlaceProblem).
 void HandOverBirthForm(const BirthFormFields& form, HoroscopeState& state);
 
 // What the chart store keeps of the form; the country and the zone go by the
@@ -71,6 +72,25 @@ BirthFormFields FormFieldsOf(const store::OpenedChart& chart, const std::string&
 
 // The eighteen "Horo" keys that a save writes, from the form.
 store::LastChart LastChartOf(const BirthFormFields& form);
+
+// The names a place's values go by where they were kept: the columns of the
+// chart store, the city master and the zone master, or the "Horo" keys.
+struct PlaceFieldNames {
+  const char* where;  // "the stored", "the setting"
+  const char *latDeg, *latNS, *latMin, *lonDeg, *lonEW, *lonMin, *timeDiff, *timeDiffEW;
+};
+inline constexpr PlaceFieldNames kStoredColumns{"the stored",      "LatitudeDegree",  "Latitude_NS",
+                                                "LatitudeMinute",  "LongitudeDegree", "Longitude_EW",
+                                                "LongitudeMinute", "TimeDifference",  "TimeZone"};
+inline constexpr PlaceFieldNames kSettingKeys{"the setting", "LatDeg", "LatNS",    "LatMin",    "LonDeg",
+                                              "LonEW",       "LonMin", "TimeDiff", "TimeDiffEW"};
+
+// A kept place that no birth can have: degrees beyond 90 or 180, minutes of
+// 60 or more, a zone beyond 14 hours, a number the store could not read (NaN),
+// a side letter that is not one of its two. Returns a message naming the
+// first such field, or nothing. The form's own lists only offer what the
+// masters hold, so this guards against a damaged or hand-edited store.
+std::optional<std::string> PlaceProblem(const BirthFormFields& form, const PlaceFieldNames& names);
 
 // Start-up: the last saved chart from the settings into the birth details.
 // The zone's name is not kept there, so it stays empty. A key whose text is

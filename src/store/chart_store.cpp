@@ -2,6 +2,7 @@
 
 #include "common/date_text.h"
 #include "store/city_master.h"
+#include "store/column_number.h"
 #include "store/store_error.h"
 #include "store/text_rules.h"
 #include "store/time_zone_master.h"
@@ -133,12 +134,12 @@ std::optional<OpenedChart> OpenChart(Database& db, std::int64_t sno) {
     o.year = q.getColumn(7).getInt();
     TwelveHourClock(q.getColumn(8).getInt(), o.hour12, o.pm);
     o.minute = q.getColumn(9).getInt();
-    o.latDeg = q.getColumn(10).getDouble();
+    o.latDeg = ColumnNumber(q.getColumn(10));
     o.latNS = q.getColumn(11).getString();
-    o.latMin = q.getColumn(12).getDouble();
-    o.lonDeg = q.getColumn(13).getDouble();
+    o.latMin = ColumnNumber(q.getColumn(12));
+    o.lonDeg = ColumnNumber(q.getColumn(13));
     o.lonEW = q.getColumn(14).getString();
-    o.lonMin = q.getColumn(15).getDouble();
+    o.lonMin = ColumnNumber(q.getColumn(15));
     o.latText = PlaceText(o.latDeg, o.latNS, o.latMin);
     o.lonText = PlaceText(o.lonDeg, o.lonEW, o.lonMin);
     if (!q.getColumn(16).isNull()) o.zoneSno = q.getColumn(16).getInt64();

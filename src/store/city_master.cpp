@@ -1,5 +1,6 @@
 #include "store/city_master.h"
 
+#include "store/column_number.h"
 #include "store/store_error.h"
 #include "store/text_rules.h"
 
@@ -16,12 +17,12 @@ CityRow RowOf(SQLite::Statement& q) {
   r.id = q.getColumn(0).getInt64();
   r.name = q.getColumn(1).getString();
   r.countryId = q.getColumn(2).getInt64();
-  r.latDeg = q.getColumn(3).getDouble();
+  r.latDeg = ColumnNumber(q.getColumn(3));
   r.latNS = q.getColumn(4).getString();
-  r.latMin = q.getColumn(5).getDouble();
-  r.lonDeg = q.getColumn(6).getDouble();
+  r.latMin = ColumnNumber(q.getColumn(5));
+  r.lonDeg = ColumnNumber(q.getColumn(6));
   r.lonEW = q.getColumn(7).getString();
-  r.lonMin = q.getColumn(8).getDouble();
+  r.lonMin = ColumnNumber(q.getColumn(8));
   return r;
 }
 

@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "common/number_rules.h"
+#include "store/column_number.h"
 #include "store/store_error.h"
 #include "store/text_rules.h"
 
@@ -14,7 +15,7 @@ namespace {
 constexpr const char* kColumns = "SELECT SNo, Place, TimeDifference, TimeZone FROM TimeZone ";
 
 ZoneRow RowOf(SQLite::Statement& q) {
-  return {q.getColumn(0).getInt64(), q.getColumn(1).getString(), q.getColumn(2).getDouble(), q.getColumn(3).getString()};
+  return {q.getColumn(0).getInt64(), q.getColumn(1).getString(), ColumnNumber(q.getColumn(2)), q.getColumn(3).getString()};
 }
 
 std::vector<std::int64_t> SplitZoneList(const std::string& list) {
