@@ -65,6 +65,14 @@ CityMasterDialog::CityMasterDialog(store::Database& db, QSettings* settings, QWi
   close->setObjectName("cmdAddCLose1");
   close->setAutoDefault(false);
   connect(close, &QPushButton::clicked, this, &QDialog::reject);
+  // A country chosen on one tab comes along to a tab that has none chosen.
+  connect(tabs_, &QTabWidget::currentChanged, this, [this](int tab) {
+    QComboBox* country = CountryOfTab(tab);
+    if (lastCountry_ != 0 && ChosenId(country) == 0) ChooseItemById(country, lastCountry_);
+  });
+  for (QComboBox* c : {add_.country, edit_.country, viewCountry_}) {
+    connect(c, &QComboBox::activated, this, [this, c] { lastCountry_ = ChosenId(c); });
+  }
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(tabs_);
   auto* buttons = new QHBoxLayout;
@@ -179,6 +187,11 @@ QWidget* CityMasterDialog::BuildViewTab() {
   connect(viewCountry_, &QComboBox::activated, this, [this] { ShowCities(viewCountry_, viewGrid_, &viewCities_); });
   connect(find, &QPushButton::clicked, this, &CityMasterDialog::Find);
   return tab;
+}
+
+QComboBox* CityMasterDialog::CountryOfTab(int tab) const {
+  QComboBox* countries[] = {add_.country, edit_.country, viewCountry_};
+  return countries[tab];
 }
 
 void CityMasterDialog::StartWithCountry(std::int64_t countryId) {

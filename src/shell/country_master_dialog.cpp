@@ -41,6 +41,7 @@ CountryMasterDialog::CountryMasterDialog(store::Database& db, QSettings* setting
   addForm->addRow(tr("Existing Country"), addList_);
   addForm->addRow(tr("Enter Country"), addName_);
   addForm->addRow(QString(), save_);
+  addForm->setAlignment(save_, Qt::AlignLeft);
   tabs_->addTab(add, tr("Add Country"));
 
   auto* edit = new QWidget(tabs_);
@@ -55,6 +56,7 @@ CountryMasterDialog::CountryMasterDialog(store::Database& db, QSettings* setting
   editForm->addRow(tr("Select Country"), editList_);
   editForm->addRow(tr("Modified Name"), editName_);
   editForm->addRow(QString(), update_);
+  editForm->setAlignment(update_, Qt::AlignLeft);
   tabs_->addTab(edit, tr("Edit Country"));
 
   auto* close = new QPushButton(tr("&Cancel"), this);
@@ -95,6 +97,8 @@ void CountryMasterDialog::Refill() {
       auto* item = new QListWidgetItem(Qs(c.name), list);
       item->setData(Qt::UserRole, QVariant::fromValue<qlonglong>(c.id));
     }
+    // Wide enough for the longest name, so no name is cut.
+    list->setMinimumWidth(list->sizeHintForColumn(0) + 2 * list->frameWidth() + 24);
   }
   // Nothing to rename until a country is chosen.
   editName_->clear();

@@ -49,6 +49,14 @@ TimeZoneMasterDialog::TimeZoneMasterDialog(store::Database& db, QSettings* setti
   close->setObjectName("Command1");
   close->setAutoDefault(false);
   connect(close, &QPushButton::clicked, this, &QDialog::reject);
+  // A country chosen on one tab comes along to a tab that has none chosen.
+  connect(tabs_, &QTabWidget::currentChanged, this, [this](int tab) {
+    QComboBox* country = CountryOfTab(tab);
+    if (lastCountry_ != 0 && ChosenId(country) == 0) ChooseItemById(country, lastCountry_);
+  });
+  for (QComboBox* c : {add_.country, edit_.country, viewCountry_}) {
+    connect(c, &QComboBox::activated, this, [this, c] { lastCountry_ = ChosenId(c); });
+  }
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(tabs_);
   auto* buttons = new QHBoxLayout;
@@ -123,6 +131,11 @@ QWidget* TimeZoneMasterDialog::BuildViewTab() {
   form->setColumnStretch(1, 1);
   InstallEnterOrder({viewCountry_, viewGrid_});
   return tab;
+}
+
+QComboBox* TimeZoneMasterDialog::CountryOfTab(int tab) const {
+  QComboBox* countries[] = {add_.country, edit_.country, viewCountry_};
+  return countries[tab];
 }
 
 void TimeZoneMasterDialog::StartWithCountry(std::int64_t countryId) {
