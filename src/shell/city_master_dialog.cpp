@@ -19,13 +19,6 @@ namespace kelvaro::shell {
 
 namespace {
 
-GridView* MakeGrid(QWidget* parent, const char* name) {
-  auto* grid = new GridView(parent);
-  grid->setObjectName(name);
-  grid->setSelectionBehavior(QAbstractItemView::SelectRows);
-  grid->SetGrid(CityGrid({}));
-  return grid;
-}
 
 // Degree, minute and letter of one coordinate, on one line.
 QHBoxLayout* Coordinate(QLineEdit* degree, QLineEdit* minute, QComboBox* letter, QWidget* parent) {
@@ -100,7 +93,7 @@ QWidget* CityMasterDialog::BuildAddTab() {
   add_.lonEW = MakeLetterCombo(tab, "cbAddEW", {"E", "W"});
   save_ = new QPushButton(tr("&Save"), tab);
   save_->setObjectName("cmdAddSave");
-  addGrid_ = MakeGrid(tab, "mshCity");
+  addGrid_ = MakeMasterGrid(tab, "mshCity", CityGrid({}));
 
   auto* form = new QGridLayout(tab);
   form->addWidget(new QLabel(tr("Country"), tab), 0, 0);
@@ -138,7 +131,7 @@ QWidget* CityMasterDialog::BuildEditTab() {
   edit_.lonEW = MakeLetterCombo(tab, "cbEditEW", {"E", "W"});
   update_ = new QPushButton(tr("&Update"), tab);
   update_->setObjectName("cmdEditUpdate");
-  editGrid_ = MakeGrid(tab, "mshEditCity");
+  editGrid_ = MakeMasterGrid(tab, "mshEditCity", CityGrid({}));
 
   auto* form = new QGridLayout(tab);
   form->addWidget(new QLabel(tr("Country"), tab), 0, 0);
@@ -172,7 +165,7 @@ QWidget* CityMasterDialog::BuildViewTab() {
   findText_ = MakeEdit(tab, "txtCityName");
   auto* find = new QPushButton(tr("&Find"), tab);
   find->setObjectName("cmdFind");
-  viewGrid_ = MakeGrid(tab, "mshViewCity");
+  viewGrid_ = MakeMasterGrid(tab, "mshViewCity", CityGrid({}));
   auto* form = new QGridLayout(tab);
   form->addWidget(new QLabel(tr("Select Country"), tab), 0, 0);
   form->addWidget(viewCountry_, 0, 1);

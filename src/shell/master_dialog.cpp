@@ -2,11 +2,13 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QSettings>
 
 #include "shell/form_keys.h"
+#include "shell/grid_view.h"
 #include "shell/messages.h"
 
 namespace kelvaro::shell {
@@ -67,6 +69,8 @@ QComboBox* MakeCountryCombo(QWidget* parent, const char* name) {
   combo->setEditable(true);
   combo->setMaxVisibleItems(20);
   combo->setMinimumContentsLength(24);
+  // Sized by that length, not by measuring every name of the atlas.
+  combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   InstallTypeAhead(combo);
   return combo;
 }
@@ -107,6 +111,18 @@ QLineEdit* MakeEdit(QWidget* parent, const char* name, bool digitsOnly) {
     edit->setMaximumWidth(64);
   }
   return edit;
+}
+
+GridView* MakeMasterGrid(QWidget* parent, const char* name, const Grid& empty) {
+  auto* grid = new GridView(parent);
+  grid->setObjectName(name);
+  grid->setSelectionBehavior(QAbstractItemView::SelectRows);
+  // Rows of one fixed line: a grid of a large country is laid out without
+  // measuring every cell.
+  grid->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  grid->verticalHeader()->setDefaultSectionSize(grid->fontMetrics().height() + 6);
+  grid->SetGrid(empty);
+  return grid;
 }
 
 void PressOnEnter(QWidget* field, QAbstractButton* button) { field->installEventFilter(new EnterPresses(field, button)); }

@@ -17,7 +17,13 @@ class QComboBox;
 class QLineEdit;
 class QSettings;
 
+namespace kelvaro {
+class Grid;
+}
+
 namespace kelvaro::shell {
+
+class GridView;
 
 class MasterDialog : public QDialog {
   Q_OBJECT
@@ -72,6 +78,9 @@ void ChooseItemById(QComboBox* combo, std::int64_t id);
 // A direction list ("N", "S" or "E", "W") with nothing chosen.
 QComboBox* MakeLetterCombo(QWidget* parent, const char* name, const QStringList& letters);
 QLineEdit* MakeEdit(QWidget* parent, const char* name, bool digitsOnly = false);
+// A grid of the masters: whole rows chosen, one line a row, first showing
+// `empty` (the heading alone).
+GridView* MakeMasterGrid(QWidget* parent, const char* name, const Grid& empty);
 // Enter in `field` presses `button`, and goes no further.
 void PressOnEnter(QWidget* field, QAbstractButton* button);
 

@@ -16,18 +16,6 @@
 
 namespace kelvaro::shell {
 
-namespace {
-
-GridView* MakeGrid(QWidget* parent, const char* name) {
-  auto* grid = new GridView(parent);
-  grid->setObjectName(name);
-  grid->setSelectionBehavior(QAbstractItemView::SelectRows);
-  grid->SetGrid(ZoneGrid({}));
-  return grid;
-}
-
-}  // namespace
-
 store::ZoneInput TimeZoneMasterDialog::ZoneFields::Input() const {
   store::ZoneInput in;
   in.countryId = ChosenId(country);
@@ -91,7 +79,7 @@ QWidget* TimeZoneMasterDialog::BuildZoneTab(ZoneFields& f, bool editing, QPushBu
   f.direction = MakeLetterCombo(tab, editing ? "cbEditEW" : "cbAddEW", {"E", "W"});
   button = new QPushButton(editing ? tr("&Update") : tr("&Save"), tab);
   button->setObjectName(editing ? "cmdEditUpdate" : "cmdAddSave");
-  grid = MakeGrid(tab, editing ? "mshEditCity" : "mshCity");
+  grid = MakeMasterGrid(tab, editing ? "mshEditCity" : "mshCity", ZoneGrid({}));
 
   auto* form = new QGridLayout(tab);
   int row = 0;
@@ -122,7 +110,7 @@ QWidget* TimeZoneMasterDialog::BuildViewTab() {
   auto* tab = new QWidget(tabs_);
   tab->setObjectName("FrameView");
   viewCountry_ = MakeCountryCombo(tab, "cmbCountry");
-  viewGrid_ = MakeGrid(tab, "mshViewCity");
+  viewGrid_ = MakeMasterGrid(tab, "mshViewCity", ZoneGrid({}));
   auto* form = new QGridLayout(tab);
   form->addWidget(new QLabel(tr("Select Country"), tab), 0, 0);
   form->addWidget(viewCountry_, 0, 1, Qt::AlignLeft);
