@@ -103,11 +103,12 @@ QComboBox* MakeLetterCombo(QWidget* parent, const char* name, const QStringList&
   return combo;
 }
 
-QLineEdit* MakeEdit(QWidget* parent, const char* name, bool digitsOnly) {
+QLineEdit* MakeEdit(QWidget* parent, const char* name, int digits) {
   auto* edit = new QLineEdit(parent);
   edit->setObjectName(name);
-  if (digitsOnly) {
+  if (digits > 0) {
     AcceptDigitsOnly(edit);
+    edit->setMaxLength(digits);
     edit->setMaximumWidth(64);
   }
   return edit;

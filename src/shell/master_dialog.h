@@ -77,7 +77,9 @@ std::int64_t ChosenId(const QComboBox* combo);
 void ChooseItemById(QComboBox* combo, std::int64_t id);
 // A direction list ("N", "S" or "E", "W") with nothing chosen.
 QComboBox* MakeLetterCombo(QWidget* parent, const char* name, const QStringList& letters);
-QLineEdit* MakeEdit(QWidget* parent, const char* name, bool digitsOnly = false);
+// A text box; with `digits` above 0, a numeric field of at most that many
+// digits (a degree takes 3, a minute or an hour 2).
+QLineEdit* MakeEdit(QWidget* parent, const char* name, int digits = 0);
 // A grid of the masters: whole rows chosen, one line a row, first showing
 // `empty` (the heading alone).
 GridView* MakeMasterGrid(QWidget* parent, const char* name, const Grid& empty);

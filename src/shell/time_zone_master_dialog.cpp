@@ -74,8 +74,8 @@ QWidget* TimeZoneMasterDialog::BuildZoneTab(ZoneFields& f, bool editing, QPushBu
   f.country = MakeCountryCombo(tab, editing ? "cbEditCountry" : "cbAddCountry");
   if (editing) editZone_ = MakeCountryCombo(tab, "cbEditCity");
   f.name = MakeEdit(tab, editing ? "txtEditCity" : "txtAddCity");
-  f.hours = MakeEdit(tab, editing ? "txtEditLatDeg" : "txtAddLatDeg", true);
-  f.minutes = MakeEdit(tab, editing ? "txtEditLatMIn" : "txtAddLAtMin", true);
+  f.hours = MakeEdit(tab, editing ? "txtEditLatDeg" : "txtAddLatDeg", 2);
+  f.minutes = MakeEdit(tab, editing ? "txtEditLatMIn" : "txtAddLAtMin", 2);
   f.direction = MakeLetterCombo(tab, editing ? "cbEditEW" : "cbAddEW", {"E", "W"});
   button = new QPushButton(editing ? tr("&Update") : tr("&Save"), tab);
   button->setObjectName(editing ? "cmdEditUpdate" : "cmdAddSave");

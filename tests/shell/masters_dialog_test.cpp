@@ -134,10 +134,14 @@ TEST_F(MastersTest, CountryAddRenameAndSearch) {
 TEST_F(MastersTest, CityAddEditAndFind) {
   auto* master = Open<CityMasterDialog>();
   EXPECT_EQ(master->windowTitle(), "City Details");
-  // The place fields take digits only: the letter is never typed in.
-  Enter(master, "txtAddLatDeg", "1x2");
-  EXPECT_EQ(master->findChild<QLineEdit*>("txtAddLatDeg")->text(), "12");
+  // The place fields take digits only, three for a degree and two for a
+  // minute: the letter and the extra digits are never typed in.
+  Enter(master, "txtAddLatDeg", "1x2345");
+  EXPECT_EQ(master->findChild<QLineEdit*>("txtAddLatDeg")->text(), "123");
+  Enter(master, "txtAddLAtMin", "7-59");
+  EXPECT_EQ(master->findChild<QLineEdit*>("txtAddLAtMin")->text(), "75");
   Enter(master, "txtAddLatDeg", "");
+  Enter(master, "txtAddLAtMin", "");
   RunSteps(master, "cmdAddSave", "City Details",
            {{nullptr, "", {"Select Country "}, "cbAddCountry"},
             {"cbAddCountry", "indi", {"Enter City "}, "txtAddCity"},
