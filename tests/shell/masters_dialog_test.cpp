@@ -231,6 +231,7 @@ TEST_F(MastersTest, BirthFormOffersWhatItsMastersAdd) {
   auto* zones = form->findChild<QComboBox*>("cbTimeZone");
   ASSERT_EQ(zones->count(), 1);
   EXPECT_EQ(cities->findText("Bengaluru East"), -1);
+  Enter(form, "txt_VC_City", "Hyderabad (A.P)");
 
   using Close = std::function<void(QWidget*)>;
   const Close closers[] = {
@@ -248,6 +249,10 @@ TEST_F(MastersTest, BirthFormOffersWhatItsMastersAdd) {
     QApplication::processEvents();
     EXPECT_TRUE(form->isVisible());
   }
+  // The lists read anew keep what the form had chosen.
+  EXPECT_EQ(cities->currentText(), "Hyderabad (A.P)");
+  EXPECT_EQ(form->findChild<QLineEdit*>("txtLatDetails")->text(), "17 N 20");
+  EXPECT_EQ(zones->currentText(), "Asia/Kolkata  (5.5 hrs E)");
 
   QTest::mouseClick(form->findChild<QPushButton*>("cmdadd"), Qt::LeftButton);
   QWidget* cityMaster = QApplication::activeModalWidget();
