@@ -14,9 +14,11 @@
 #include <QVBoxLayout>
 
 #include "common/date_text.h"
+#include "shell/city_master_dialog.h"
 #include "shell/form_keys.h"
 #include "shell/messages.h"
 #include "shell/saved_charts_dialog.h"
+#include "shell/time_zone_master_dialog.h"
 #include "store/chart_store.h"
 #include "store/city_master.h"
 #include "store/country_master.h"
@@ -81,10 +83,10 @@ void BirthFormDialog::BuildControls() {
   cityButton_->setObjectName("cmdadd");
   zoneButton_ = new QPushButton("?", this);
   zoneButton_->setObjectName("cmdTimeZoneHelp");
-  // The City and Time zone masters come with the Tools menu's windows.
+  cityButton_->setToolTip(tr("Add or edit a city (City Details)"));
+  zoneButton_->setToolTip(tr("Add or edit a time zone (Time Zone)"));
   for (QPushButton* b : {cityButton_, zoneButton_}) {
-    b->setEnabled(false);
-    b->setToolTip(tr("The masters open from the Tools menu in a later release"));
+    b->setAutoDefault(false);
     b->setFixedWidth(28);
   }
   lat_ = new QLineEdit(this);
@@ -162,6 +164,8 @@ void BirthFormDialog::BuildControls() {
   // Typing another text than the chosen item's unsets what it chose.
   connect(city_, &QComboBox::editTextChanged, this, [this] { placeKnown_ = false; });
   connect(zone_, &QComboBox::editTextChanged, this, [this] { zoneKnown_ = false; });
+  connect(cityButton_, &QPushButton::clicked, this, &BirthFormDialog::OpenCityMaster);
+  connect(zoneButton_, &QPushButton::clicked, this, &BirthFormDialog::OpenTimeZoneMaster);
   connect(ok_, &QPushButton::clicked, this, &BirthFormDialog::Ok);
   connect(cancel_, &QPushButton::clicked, this, &QDialog::reject);
 }
@@ -236,28 +240,32 @@ std::int64_t BirthFormDialog::ZoneSno() const {
 }
 
 void BirthFormDialog::ChooseCountry(bool chooseSingleZone) {
-  city_->clear();
-  zone_->clear();
   placeKnown_ = zoneKnown_ = false;
   lat_->clear();
   lon_->clear();
-  const std::int64_t id = CountryId();
-  if (id == 0 || !services_.db) return;
-  for (const auto& z : store::ZonesOf(*services_.db, id)) {
-    zone_->addItem(Qs(store::ZoneItemText(z)), QVariant::fromValue<qlonglong>(z.sno));
-  }
-  for (const auto& c : store::CitiesOf(*services_.db, id)) {
-    city_->addItem(Qs(c.name), QVariant::fromValue<qlonglong>(c.id));
-  }
-  city_->setCurrentIndex(-1);
-  city_->setEditText({});
-  zone_->setCurrentIndex(-1);
-  zone_->setEditText({});
+  FillCitiesAndZones(CountryId());
   // A country with one zone needs no question.
   if (chooseSingleZone && zone_->count() == 1) {
     zone_->setCurrentIndex(0);
     ChooseZone();
   }
+}
+
+void BirthFormDialog::FillCitiesAndZones(std::int64_t countryId) {
+  city_->clear();
+  zone_->clear();
+  if (countryId != 0 && services_.db) {
+    for (const auto& z : store::ZonesOf(*services_.db, countryId)) {
+      zone_->addItem(Qs(store::ZoneItemText(z)), QVariant::fromValue<qlonglong>(z.sno));
+    }
+    for (const auto& c : store::CitiesOf(*services_.db, countryId)) {
+      city_->addItem(Qs(c.name), QVariant::fromValue<qlonglong>(c.id));
+    }
+  }
+  city_->setCurrentIndex(-1);
+  city_->setEditText({});
+  zone_->setCurrentIndex(-1);
+  zone_->setEditText({});
 }
 
 void BirthFormDialog::SetPlace(double latDeg, const std::string& latNS, double latMin, double lonDeg,
@@ -430,6 +438,69 @@ void BirthFormDialog::OpenChart(std::int64_t sno) {
     timeDiff_ = f.timeDiff;
     timeDiffEW_ = f.timeDiffEW;
     zoneKnown_ = !f.zone.empty();
+  } catch (const std::exception& e) {
+    ShowError(this, Qs(e.what()));
+  }
+}
+
+MasterDialog* BirthFormDialog::OpenCityMaster() {
+  if (!services_.db) return nullptr;
+  auto* master = new CityMasterDialog(*services_.db, services_.windowSettings, this);
+  master->StartWithCountry(CountryId());
+  ShowWhileOpen(master);
+  return master;
+}
+
+MasterDialog* BirthFormDialog::OpenTimeZoneMaster() {
+  if (!services_.db) return nullptr;
+  auto* master = new TimeZoneMasterDialog(*services_.db, services_.windowSettings, this);
+  master->StartWithCountry(CountryId());
+  ShowWhileOpen(master);
+  return master;
+}
+
+void BirthFormDialog::ShowWhileOpen(MasterDialog* master) {
+  // finished() comes however the master closes: its button, Escape or the
+  // title bar.
+  connect(master, &QDialog::finished, this, [this] {
+    RefillLists();
+    show();
+    raise();
+    activateWindow();
+  });
+  hide();
+  master->open();
+}
+
+void BirthFormDialog::RefillLists() {
+  const std::int64_t countryId = CountryId();
+  const QString countryText = country_->currentText();
+  const QString cityText = city_->currentText();
+  const QString zoneText = zone_->currentText();
+  const std::int64_t zoneSno = zoneKnown_ ? ZoneSno() : 0;
+  const bool placeKnown = placeKnown_;
+  const bool zoneKnown = zoneKnown_;
+  try {
+    FillCountries();
+    const int countryItem = country_->findData(QVariant::fromValue<qlonglong>(countryId));
+    country_->setCurrentIndex(countryItem);
+    if (countryItem < 0) country_->setEditText(countryText);
+    FillCitiesAndZones(CountryId());
+    // A city or zone chosen before is read again: the master may have changed it.
+    city_->setEditText(cityText);
+    placeKnown_ = placeKnown;
+    if (placeKnown_ && ItemMatchingText(city_) >= 0) ChooseCity();
+    const int zoneItem = zoneSno == 0 ? -1 : zone_->findData(QVariant::fromValue<qlonglong>(zoneSno));
+    if (zoneItem >= 0) {
+      zone_->setCurrentIndex(zoneItem);
+      ChooseZone();
+    } else if (zoneText.isEmpty() && zone_->count() == 1) {
+      zone_->setCurrentIndex(0);
+      ChooseZone();
+    } else {
+      zone_->setEditText(zoneText);
+      zoneKnown_ = zoneKnown;
+    }
   } catch (const std::exception& e) {
     ShowError(this, Qs(e.what()));
   }

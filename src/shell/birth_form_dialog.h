@@ -14,6 +14,7 @@
 #include "store/settings.h"
 
 class QComboBox;
+class QSettings;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
@@ -22,6 +23,7 @@ class QVBoxLayout;
 
 namespace kelvaro::shell {
 
+class MasterDialog;
 class SavedChartsDialog;
 
 class BirthFormDialog : public QDialog {
@@ -35,6 +37,7 @@ class BirthFormDialog : public QDialog {
     // has shown why). userId keys the chart's tempBhukthi rows.
     std::function<bool(const BirthFormFields& form, std::int64_t userId)> calculate;
     std::function<QDateTime()> now = [] { return QDateTime::currentDateTime(); };
+    QSettings* windowSettings = nullptr;  // the masters' sizes; may be null
   };
 
   BirthFormDialog(Services services, QWidget* parent);
@@ -51,6 +54,10 @@ class BirthFormDialog : public QDialog {
   void New();
   void Open();
   void Delete();
+  // The buttons beside the city and the zone: the form hides while the
+  // master is open and comes back, its lists read anew, however it closes.
+  MasterDialog* OpenCityMaster();
+  MasterDialog* OpenTimeZoneMaster();
 
   QAction* NewAction() const { return newAction_; }
   QAction* OpenAction() const { return openAction_; }
@@ -64,6 +71,10 @@ class BirthFormDialog : public QDialog {
   void SetDefaults();
   void FillCountries();
   void ChooseCountry(bool chooseSingleZone = true);
+  void FillCitiesAndZones(std::int64_t countryId);
+  void ShowWhileOpen(MasterDialog* master);
+  // The lists read anew, keeping what the form had chosen.
+  void RefillLists();
   void ChooseCity();
   void ChooseZone();
   void SetPlace(double latDeg, const std::string& latNS, double latMin, double lonDeg, const std::string& lonEW,

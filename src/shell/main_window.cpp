@@ -20,11 +20,14 @@
 #include "horoscope/views.h"
 #include "shell/birth_form_dialog.h"
 #include "shell/chart_view.h"
+#include "shell/city_master_dialog.h"
+#include "shell/country_master_dialog.h"
 #include "shell/dasa_view.h"
 #include "shell/details_view.h"
 #include "shell/messages.h"
 #include "shell/print_view.h"
 #include "shell/table_views.h"
+#include "shell/time_zone_master_dialog.h"
 #include "store/personal_details.h"
 #include "store/preferences.h"
 #include "store/settings.h"
@@ -74,12 +77,15 @@ MainWindow::~MainWindow() = default;
 void MainWindow::BuildMenus() {
   birthDetails_ = menuBar()->addAction(tr("&Enter Birth Details"), this, [this] { OpenBirthForm(); });
   birthDetails_->setObjectName("mnuBirthDetails");
-  // The tool windows behind these entries are not built yet: they stand in
-  // their places, disabled, so the menus already read as they will.
   QMenu* tools = menuBar()->addMenu(tr("&Tools"));
   tools->setObjectName("mnuTools");
-  for (const char* text : {"&Country Master", "Cit&y Master", "Time &Zone Master", "", "Edit Personal &Info",
-                           "&Preferences"}) {
+  tools->addAction(tr("&Country Master"), this, [this] { OpenCountryMaster(); })->setObjectName("mDI_Country");
+  tools->addAction(tr("Cit&y Master"), this, [this] { OpenCityMaster(); })->setObjectName("MDI_LAt_Lon");
+  tools->addAction(tr("Time &Zone Master"), this, [this] { OpenTimeZoneMaster(); })
+      ->setObjectName("MDI_ADD_TimeZone");
+  // The tool windows behind these entries are not built yet: they stand in
+  // their places, disabled, so the menus already read as they will.
+  for (const char* text : {"", "Edit Personal &Info", "&Preferences"}) {
     if (*text == '\0') {
       tools->addSeparator();
       continue;
@@ -287,6 +293,7 @@ BirthFormDialog* MainWindow::OpenBirthForm() {
   BirthFormDialog::Services services;
   services.db = db_.get();
   services.settings = &settingsStore_;
+  services.windowSettings = options_.settings;
   services.calculate = [this](const BirthFormFields& form, std::int64_t userId) {
     return CalculateBirth(form, userId);
   };
@@ -294,6 +301,21 @@ BirthFormDialog* MainWindow::OpenBirthForm() {
   form->open();
   return form;
 }
+
+template <class Master>
+Master* MainWindow::OpenMaster() {
+  if (!db_) {
+    ShowError(this, tr("The database \"%1\" is not open, so the masters cannot be shown.").arg(options_.databasePath));
+    return nullptr;
+  }
+  auto* master = new Master(*db_, options_.settings, this);
+  master->open();
+  return master;
+}
+
+CountryMasterDialog* MainWindow::OpenCountryMaster() { return OpenMaster<CountryMasterDialog>(); }
+CityMasterDialog* MainWindow::OpenCityMaster() { return OpenMaster<CityMasterDialog>(); }
+TimeZoneMasterDialog* MainWindow::OpenTimeZoneMaster() { return OpenMaster<TimeZoneMasterDialog>(); }
 
 void MainWindow::ShowHelp() {
   auto* help = findChild<QDialog*>("HelpWindow");

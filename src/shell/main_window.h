@@ -28,6 +28,9 @@ class QDockWidget;
 namespace kelvaro::shell {
 
 class BirthFormDialog;
+class CityMasterDialog;
+class CountryMasterDialog;
+class TimeZoneMasterDialog;
 class ViewPage;
 
 inline constexpr const char* kMainCaption = "Kelvaro - Kelvaro Basic (Version 2.4)";
@@ -64,6 +67,9 @@ class MainWindow : public QMainWindow {
   ViewPage* View(std::size_t index) const;
 
   BirthFormDialog* OpenBirthForm();
+  CountryMasterDialog* OpenCountryMaster();
+  CityMasterDialog* OpenCityMaster();
+  TimeZoneMasterDialog* OpenTimeZoneMaster();
 
   QTreeWidget* Tree() const { return tree_; }
   QDockWidget* TreeDock() const { return dock_; }
@@ -86,6 +92,8 @@ class MainWindow : public QMainWindow {
   void RefreshViews();
   void ShowHelp();
   void ShowAbout();
+  template <class Master>
+  Master* OpenMaster();
 
   Options options_;
   QtSettingsStore settingsStore_;
