@@ -39,6 +39,22 @@ std::optional<FieldMessage> NumbersOf(const CityInput& in, const char* const fie
     if (!value) return FieldMessage{fields[i], "Enter Number "};
     *values[i] = *value;
   }
+  // Beyond the master's own tests: no place lies past a pole or the date line,
+  // and a minute stops below 60, so a slip of the keys is not stored as a city.
+  const struct {
+    double value, limit;
+    const char* message;
+  } ranges[4] = {{out.latDeg, 90, "Enter Lat Deg between 0 and 90"},
+                 {out.latMin, 60, "Enter Lat Min between 0 and 59"},
+                 {out.lonDeg, 180, "Enter Lon Deg between 0 and 180"},
+                 {out.lonMin, 60, "Enter Lon Min between 0 and 59"}};
+  for (int i = 0; i < 4; ++i) {
+    const bool minute = i % 2 == 1;
+    const bool beyond = ranges[i].value < 0 || (minute ? ranges[i].value >= 60 : ranges[i].value > ranges[i].limit);
+    // 90 or 180 whole degrees take no minutes.
+    const bool pastEnd = minute && ranges[i].value > 0 && ranges[i - 1].value == ranges[i - 1].limit;
+    if (beyond || pastEnd) return FieldMessage{fields[i], ranges[i].message};
+  }
   return std::nullopt;
 }
 

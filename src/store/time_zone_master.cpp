@@ -39,6 +39,12 @@ std::optional<FieldMessage> OffsetOf(const ZoneInput& in, const char* hoursField
   if (!hours) return FieldMessage{hoursField, "Enter Number "};
   const auto minutes = NumericValue(in.minutes);
   if (!minutes) return FieldMessage{minutesField, "Enter Number "};
+  // Beyond the master's own tests: no zone lies more than 14 hours from
+  // Greenwich, and a minute stops below 60.
+  if (*hours < 0 || *hours > 14) return FieldMessage{hoursField, "Enter Time Hours between 0 and 14"};
+  if (*minutes < 0 || *minutes >= 60 || (*hours == 14 && *minutes > 0)) {
+    return FieldMessage{minutesField, "Enter Time Min between 0 and 59"};
+  }
   out = {*hours, *minutes};
   return std::nullopt;
 }
