@@ -62,32 +62,28 @@ TEST(ReportTitlePage, EmptyLetterheadEndsAtTheSecondRule) {
   EXPECT_EQ(Lines(pages[0]), TitleTop());
 }
 
+// The owner's block under the title page: its trimmed fields joined, and only
+// the lines that have something to show.
 TEST(ReportTitlePage, OwnerBlockJoinsTheTrimmedFields) {
   ReportModels m = Models();
   ReportInput input = m.Input();
-  input.owner = {" Sri Jyotisha ", "12 Temple Road", "Ward 4", "Hyderabad", "India ", "500001", " 040-123 ",
-                 "mail@example.org"};
-  std::vector<std::string> expected = TitleTop();
-  expected.push_back("");
-  expected.push_back("     Sri Jyotisha");
-  expected.push_back("     12 Temple Road, Ward 4, Hyderabad, India - 500001, Phone : 040-123");
-  expected.push_back("     E-Mail : mail@example.org");
-  EXPECT_EQ(Lines(SplitPages(ComposeReport(input))[0]), expected);
-}
-
-TEST(ReportTitlePage, NameAloneGivesOneOwnerLine) {
-  ReportModels m = Models();
-  ReportInput input = m.Input();
-  input.owner.name = "Kelvaro Technologies Pvt Ltd";
-  std::vector<std::string> expected = TitleTop();
-  expected.push_back("");
-  expected.push_back("     Kelvaro Technologies Pvt Ltd");
-  EXPECT_EQ(Lines(SplitPages(ComposeReport(input))[0]), expected);
-  // Only an e-mail: no name line and no address line.
-  input.owner = {"", " ", "", "", "", "", "", "a@b.org"};
-  expected.pop_back();
-  expected.push_back("     E-Mail : a@b.org");
-  EXPECT_EQ(Lines(SplitPages(ComposeReport(input))[0]), expected);
+  const struct {
+    OwnerDetails owner;
+    std::vector<std::string> lines;
+  } cases[] = {
+      {{" Sri Jyotisha ", "12 Temple Road", "Ward 4", "Hyderabad", "India ", "500001", " 040-123 ", "mail@example.org"},
+       {"     Sri Jyotisha", "     12 Temple Road, Ward 4, Hyderabad, India - 500001, Phone : 040-123",
+        "     E-Mail : mail@example.org"}},
+      {{"Kelvaro Technologies Pvt Ltd", "", "", "", "", "", "", ""}, {"     Kelvaro Technologies Pvt Ltd"}},
+      {{"", " ", "", "", "", "", "", "a@b.org"}, {"     E-Mail : a@b.org"}},
+  };
+  for (const auto& c : cases) {
+    input.owner = c.owner;
+    std::vector<std::string> expected = TitleTop();
+    expected.push_back("");
+    expected.insert(expected.end(), c.lines.begin(), c.lines.end());
+    EXPECT_EQ(Lines(SplitPages(ComposeReport(input))[0]), expected);
+  }
 }
 
 TEST(ReportTitlePage, LabelsInTheirOrderWithTheReportsSpelling) {
@@ -168,35 +164,29 @@ void SetRow(Grid& grid, int row, const std::vector<std::string>& texts) {
   for (size_t c = 0; c < texts.size(); ++c) grid.SetText(row, static_cast<int>(c), texts[c]);
 }
 
-TEST(ReportBhavaPage, TableOfTheMidPointsUnderTwoHeadingLines) {
+// The table of the mid points under two heading lines; a long star name
+// then widens its whole column and the rules with it.
+TEST(ReportBhavaPage, TableOfTheMidPointsAndALongStarName) {
   ReportModels m = Models();
   Grid& houses = m.bhava.mshBhavaDetails;
   houses.Resize(13, 8);
   SetRow(houses, 3, {"3", "265.43.43", "Sagitarius", "Jupiter", "Poorvashada", "4", "Venus", "Mercury"});
-  const std::vector<std::string> lines = Lines(SplitPages(ComposeReport(m.Input()))[2]);
+  std::vector<std::string> lines = Lines(SplitPages(ComposeReport(m.Input()))[2]);
   // Header (3), drawing (21), two blank lines, then the table.
   ASSERT_EQ(lines.size(), 3u + 21u + 2u + 5u + 12u);
-  const std::string rule(76, '-');
-  EXPECT_EQ(lines[27], rule);
+  EXPECT_EQ(lines[27], std::string(76, '-'));
   EXPECT_EQ(lines[28], "House Mid        Rasi        Rasi Lord Star         Pada Star Lord Sub Lord");
   EXPECT_EQ(lines[29], "      Longitude");
-  EXPECT_EQ(lines[30], rule);
+  EXPECT_EQ(lines[30], std::string(76, '-'));
   EXPECT_EQ(lines[31], "");  // house 1 has no text in this model
   EXPECT_EQ(lines[33], "3     265.43.43  Sagitarius  Jupiter   Poorvashada  4    Venus     Mercury");
-}
 
-TEST(ReportBhavaPage, LongStarNameWidensItsWholeColumn) {
-  ReportModels m = Models();
-  Grid& houses = m.bhava.mshBhavaDetails;
-  houses.Resize(13, 8);
-  SetRow(houses, 3, {"3", "265.43.43", "Sagitarius", "Jupiter", "Poorvashada", "4", "Venus", "Mercury"});
   SetRow(houses, 4, {"4", "295.58.10", "Capricon", "Saturn", "Uttarabhadrapada", "1", "Mars", "Rahu"});
-  const std::vector<std::string> lines = Lines(SplitPages(ComposeReport(m.Input()))[2]);
+  lines = Lines(SplitPages(ComposeReport(m.Input()))[2]);
   ASSERT_EQ(lines.size(), 3u + 21u + 2u + 5u + 12u);
-  const std::string rule(80, '-');
-  EXPECT_EQ(lines[27], rule);
+  EXPECT_EQ(lines[27], std::string(80, '-'));
   EXPECT_EQ(lines[28], "House Mid        Rasi        Rasi Lord Star             Pada Star Lord Sub Lord");
-  EXPECT_EQ(lines[30], rule);
+  EXPECT_EQ(lines[30], std::string(80, '-'));
   EXPECT_EQ(lines[33], "3     265.43.43  Sagitarius  Jupiter   Poorvashada      4    Venus     Mercury");
   EXPECT_EQ(lines[34], "4     295.58.10  Capricon    Saturn    Uttarabhadrapada 1    Mars      Rahu");
 }
