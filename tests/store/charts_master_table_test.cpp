@@ -30,15 +30,7 @@ class ChartsMasterTableTest : public ::testing::Test {
   Database db_{folder_ / "DBMirvaneBasic.db"};
 };
 
-int SeedRowCount() {
-  std::ifstream in(std::string(KELVARO_DATA_DIR) + "/chartsmaster.csv");
-  std::string line;
-  int rows = -1;  // the first line holds the column names
-  while (std::getline(in, line)) {
-    if (!line.empty()) ++rows;
-  }
-  return rows;
-}
+int SeedRowCount() { return static_cast<int>(kelvaro::testing::SeedCsvRows("chartsmaster.csv").size()); }
 
 // Each expected sign, in tests/data/charts_master/classical_rules.txt, is
 // worked by hand from the rule of the chart (sign numbers 1 Aries to 12

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -54,5 +55,25 @@ inline std::vector<std::vector<std::string>> TestDataTable(const std::string& na
   }
   return rows;
 }
+
+#ifdef KELVARO_DATA_DIR
+// The rows of a seed file in data/ (plain fields split at ',', no quoting),
+// the line of column names and blank lines left out.
+inline std::vector<std::vector<std::string>> SeedCsvRows(const std::string& name) {
+  std::ifstream in(std::string(KELVARO_DATA_DIR) + "/" + name);
+  if (!in) throw std::runtime_error("no seed file " + name);
+  std::vector<std::vector<std::string>> rows;
+  std::string line;
+  std::getline(in, line);
+  while (std::getline(in, line)) {
+    if (line.empty()) continue;
+    std::vector<std::string> fields;
+    std::istringstream split(line);
+    for (std::string field; std::getline(split, field, ',');) fields.push_back(field);
+    rows.push_back(std::move(fields));
+  }
+  return rows;
+}
+#endif
 
 }  // namespace kelvaro::testing
