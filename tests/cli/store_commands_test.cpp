@@ -49,7 +49,7 @@ class StoreCommands : public ::testing::Test {
   TempFolder folder_;
 };
 
-TEST_F(StoreCommands, PlacesOfTheSampleChart) {
+TEST_F(StoreCommands, PlacesOfTheSampleChartAndAnUnknownCountry) {
   const Outcome countries = RunTool({"places", "countries", "--database", Db()});
   ASSERT_EQ(countries.status, kExitOk) << countries.err;
   EXPECT_TRUE(Contains(countries.out, "  India\n"));
@@ -77,9 +77,7 @@ TEST_F(StoreCommands, PlacesOfTheSampleChart) {
   store::Database db(Db());
   const auto india = std::to_string(store::CountryByName(db, "India")->id);
   EXPECT_EQ(RunTool({"places", "zones", india, "--database", Db()}).out, zones.out);
-}
-
-TEST_F(StoreCommands, UnknownCountryIsBadInput) {
+  // An unknown country is bad input.
   for (const char* what : {"cities", "zones"}) {
     const Outcome r = RunTool({"places", what, "Atlantis", "--database", Db()});
     EXPECT_EQ(r.status, kExitBadInput) << what;

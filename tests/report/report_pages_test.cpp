@@ -53,7 +53,8 @@ ReportModels Models() {
 // ---- Title page --------------------------------------------------------------
 
 // The title page of the sample chart without a letterhead, in
-// tests/data/report/title_page.txt.
+// tests/data/report/title_page.txt: every label in its order and the report's
+// spelling ("Birth County"), each with its value.
 std::vector<std::string> TitleTop() { return kelvaro::testing::TestDataLines("report/title_page.txt"); }
 
 TEST(ReportTitlePage, EmptyLetterheadEndsAtTheSecondRule) {
@@ -86,16 +87,6 @@ TEST(ReportTitlePage, OwnerBlockJoinsTheTrimmedFields) {
   }
 }
 
-TEST(ReportTitlePage, LabelsInTheirOrderWithTheReportsSpelling) {
-  const TitlePageValues values = ReportModels::Title();
-  const auto fields = TitlePageFields(values);
-  EXPECT_STREQ(fields[0].first, "Name");
-  EXPECT_STREQ(fields[8].first, "Birth County");
-  EXPECT_EQ(*fields[8].second, "India");
-  EXPECT_STREQ(fields[28].first, "Karnam");
-  EXPECT_EQ(*fields[28].second, "Bava");
-}
-
 // ---- Chart page --------------------------------------------------------------
 
 // A South chart laid out from its line table: margin 10, rows of 49 "*",
@@ -112,6 +103,7 @@ TEST(ReportChartPage, SouthRasiAndNavamsaUnderTheHeader) {
   EXPECT_EQ(Lines(SplitPages(ComposeReport(m.Input()))[1]), expected);
 }
 
+// The style is compared upper-cased; one that is no style leaves only the header.
 TEST(ReportChartPage, StyleIsComparedUpperCased) {
   ReportModels m = Models();
   m.cells.rasi.east.SetCaption(1, "Sun  ");
@@ -120,10 +112,6 @@ TEST(ReportChartPage, StyleIsComparedUpperCased) {
   EXPECT_EQ(lower, proper);
   EXPECT_NE(proper.find("* * * * * * * * * * * * * * * * * * * * * *"), std::string::npos);
   EXPECT_NE(proper.find("Sun"), std::string::npos);
-}
-
-TEST(ReportChartPage, UnknownStyleLeavesOnlyTheHeader) {
-  ReportModels m = Models();
   const std::vector<std::string> lines = Lines(SplitPages(ComposeReport(m.Input(false, "West")))[1]);
   EXPECT_EQ(lines, (std::vector<std::string>{Blanks(38) + "www.kelvaro.org - Horoscope  Page 2", kUnderscores, "",
                                               "", ""}));
