@@ -74,9 +74,8 @@ TEST(Ashtakavarga, AllContributorsInOneRasi) {
 
 // The column totals follow from the table alone: its count of entries.
 TEST(Ashtakavarga, TableColumnTotals) {
+  // Sun, Moon, Mars, Mercury, Jupiter, Venus, Saturn, Lagna, Rahu.
   constexpr std::array<int, 9> kTotals = {48, 49, 39, 54, 56, 52, 39, 49, 43};
-  constexpr std::array<const char*, 9> kColumns = {"Sun",   "Moon",  "Mars",   "Mercury", "Jupiter",
-                                                   "Venus", "Saturn", "Lagna", "Rahu"};
   for (size_t col = 0; col < kAshtakavargaTable.size(); ++col) {
     int entries = 0;
     for (const AshtakavargaHouses& h : kAshtakavargaTable[col].from) {
@@ -89,8 +88,7 @@ TEST(Ashtakavarga, TableColumnTotals) {
         }
       }
     }
-    EXPECT_STREQ(kAshtakavargaTable[col].column, kColumns[col]);
-    EXPECT_EQ(entries, kTotals[col]) << kColumns[col];
+    EXPECT_EQ(entries, kTotals[col]) << kAshtakavargaTable[col].column;
   }
 }
 
