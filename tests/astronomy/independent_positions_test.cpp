@@ -31,16 +31,14 @@ TEST(IndependentCheck, TwelveGettersAgreeForEveryCase) {
     SCOPED_TRACE(row[0] + " " + row[4]);
     int y = 0, m = 0, d = 0, h = 0, n = 0;
     ASSERT_EQ(std::sscanf(row[0].c_str(), "%d-%d-%d %d:%d", &y, &m, &d, &h, &n), 5);
-    std::istringstream lat(row[1]), lon(row[2]), zone(row[3]), ayanamsa(row[4]), expected(row[7]);
-    double latDeg = 0, latMin = 0, lonDeg = 0, lonMin = 0, hours = 0, zeroYear = 0, progress = 0;
-    std::string ns, ew, side, name;
-    lat >> latDeg >> ns >> latMin;
-    lon >> lonDeg >> ew >> lonMin;
-    zone >> hours >> side;
+    const auto lat = testing::ReadSided(row[1]), lon = testing::ReadSided(row[2]), zone = testing::ReadSided(row[3]);
+    std::istringstream ayanamsa(row[4]), expected(row[7]);
+    std::string name;
+    double zeroYear = 0, progress = 0;
     ayanamsa >> name >> zeroYear >> progress;
     ClsFindPlanetPosition f;
-    f.FindFixValues(OleDate::FromParts(y, m, d, h, n), ns, latDeg, latMin, ew, lonDeg, lonMin, hours, side, 0, name,
-                    zeroYear, progress);
+    f.FindFixValues(OleDate::FromParts(y, m, d, h, n), lat.side, lat.value, lat.minutes, lon.side, lon.value,
+                    lon.minutes, zone.value, zone.side, 0, name, zeroYear, progress);
     EXPECT_EQ(f.Planet().DayNumber, std::stod(row[5]));
     EXPECT_NEAR(f.Planet().UniversalHours, std::stod(row[6]), 1e-12);
     const double got[12] = {f.FnFindLagnaPosition(), f.FnFindSunPosition(), f.FnFindMoonPosition(),

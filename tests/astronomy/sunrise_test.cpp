@@ -79,14 +79,9 @@ TEST(Sunrise, AgreesWithAlmanacTimes) {
   for (const auto& row : rows) {
     ASSERT_EQ(row.size(), 7u);
     SCOPED_TRACE(row[0]);
-    std::string ns, ew, side;
-    Place place{};
-    std::istringstream(row[1]) >> place.latDeg >> ns >> place.latMin;
-    std::istringstream(row[2]) >> place.lonDeg >> ew >> place.lonMin;
-    std::istringstream(row[3]) >> place.zone >> side;
-    place.ns = ns.c_str();
-    place.ew = ew.c_str();
-    place.side = side.c_str();
+    const auto lat = testing::ReadSided(row[1]), lon = testing::ReadSided(row[2]), zone = testing::ReadSided(row[3]);
+    const Place place{lat.side.c_str(), lat.value, lat.minutes, lon.side.c_str(), lon.value, lon.minutes, zone.value,
+                      zone.side.c_str()};
     int y = 0, m = 0, d = 0, rh = 0, rm = 0, rs = 0, sh = 0, sm = 0, ss = 0;
     ASSERT_EQ(std::sscanf(row[4].c_str(), "%d-%d-%d", &y, &m, &d), 3);
     ASSERT_EQ(std::sscanf(row[5].c_str(), "%d:%d:%d", &rh, &rm, &rs), 3);

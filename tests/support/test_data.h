@@ -56,6 +56,20 @@ inline std::vector<std::vector<std::string>> TestDataTable(const std::string& na
   return rows;
 }
 
+// An angle or a zone as the data files write it: "17 N 20" (degrees, side,
+// minutes) or "5.5 E" (hours and side, no minutes).
+struct SidedValue {
+  double value = 0;
+  std::string side;
+  double minutes = 0;
+};
+
+inline SidedValue ReadSided(const std::string& text) {
+  SidedValue v;
+  std::istringstream(text) >> v.value >> v.side >> v.minutes;
+  return v;
+}
+
 #ifdef KELVARO_DATA_DIR
 // The rows of a seed file in data/ (plain fields split at ',', no quoting),
 // the line of column names and blank lines left out.
