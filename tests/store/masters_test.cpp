@@ -145,11 +145,12 @@ TEST_F(Masters, SameCityNameInTwoCountriesIsAllowed) {
 TEST_F(Masters, EditCityMessagesInOrder) {
   const auto india = CountryByName(db_, "India")->id;
   const auto id = AddCity(db_, GoodCity(india)).id;
-  // The city chosen is tested second, after the country.
-  CityInput noCountry = GoodCity(india);
-  noCountry.countryId = 0;
-  EXPECT_EQ(EditCity(db_, 0, noCountry).failure, (FieldMessage{"cbEditCountry", "Select Country "}));
-  EXPECT_EQ(EditCity(db_, 0, GoodCity(india)).failure, (FieldMessage{"cbEditCity", "Select CIty"}));
+  // The city chosen is tested after the country and before the name.
+  CityInput noName = GoodCity(india);
+  noName.city = "";
+  EXPECT_EQ(EditCity(db_, 0, noName).failure, (FieldMessage{"cbEditCity", "Select CIty"}));
+  noName.countryId = 0;
+  EXPECT_EQ(EditCity(db_, 0, noName).failure, (FieldMessage{"cbEditCountry", "Select Country "}));
   const std::vector<Spoilt<CityInput>> cases = {
       {"no name", [](CityInput& c) { c.city = ""; c.latMin = ""; }, {"txtEditCity", "Enter City "}},
       // No test of an empty latitude degree: the next test speaks first.
@@ -287,10 +288,12 @@ TEST_F(Masters, EditZoneMessagesInOrderAndUnchangedUpdateKeepsTheOffset) {
   in.minutes = "45";
   const auto sno = AddZone(db_, in).id;
 
-  ZoneInput noCountry = GoodZone(atlantis);
-  noCountry.countryId = 0;
-  EXPECT_EQ(EditZone(db_, 0, noCountry).failure, (FieldMessage{"cbEditCountry", "Select Country "}));
-  EXPECT_EQ(EditZone(db_, 0, GoodZone(atlantis)).failure, (FieldMessage{"cbEditCity", "Select Time Zone"}));
+  // The zone chosen is tested after the country and before the name.
+  ZoneInput noName = GoodZone(atlantis);
+  noName.name = "";
+  EXPECT_EQ(EditZone(db_, 0, noName).failure, (FieldMessage{"cbEditCity", "Select Time Zone"}));
+  noName.countryId = 0;
+  EXPECT_EQ(EditZone(db_, 0, noName).failure, (FieldMessage{"cbEditCountry", "Select Country "}));
   const std::vector<Spoilt<ZoneInput>> cases = {
       {"no name", [](ZoneInput& z) { z.name = ""; z.hours = ""; }, {"txtEditCity", "Enter Time Zone "}},
       {"no hours", [](ZoneInput& z) { z.hours = ""; z.minutes = ""; }, {"txtEditLatDeg", "Enter Hours"}},
