@@ -52,6 +52,13 @@ void Fill(const ChartData& chart, Filled& f, const std::string& userId = "Velnes
 
 std::vector<std::string> Row(const Grid& grid, int row) { return grid.RowTexts(row); }
 
+// The sample chart's dasa, filled once per test.
+class SampleDasa : public ::testing::Test {
+ protected:
+  void SetUp() override { Fill(SampleChart(), f); }
+  Filled f;
+};
+
 // Rows 1 to count of a grid against a data file of name|from|to|age lines.
 void ExpectRows(const Grid& grid, const std::string& file, size_t count) {
   const auto rows = testing::TestDataTable(file);
@@ -62,9 +69,7 @@ void ExpectRows(const Grid& grid, const std::string& file, size_t count) {
 // Uttarashada (star 21, the Sun's) ends at 280 degrees = 16800 minutes; the
 // Moon stands at 275 * 60 + 27.37 = 16527.37, cut to 16527: 273 minutes left.
 // Balance 6 * 273 / 800 = 2.0475 years = 2 years, 0.57 months, 17.1 days.
-TEST(Dasa, SampleChartBalance) {
-  Filled f;
-  Fill(SampleChart(), f);
+TEST_F(SampleDasa, SampleChartBalance) {
   EXPECT_DOUBLE_EQ(f.tables.balanceYears, 2.0475);
   EXPECT_EQ(f.tables.Lab_DasaBalanceV, "Dasa Balance at Birth :Dasa  Sun2-0- 17");
   EXPECT_EQ(f.tables.DasaBalanceText, "Sun Dasa  2 Years 0 Months 17 Days ");
@@ -78,9 +83,7 @@ TEST(Dasa, SampleChartBalance) {
 // 2557 days, 18 years 6574.5 to 6574, 16 years 5844, 19 years 6939.75 to
 // 6940, 17 years 6209.25 to 6209, 20 years 7305. The age is the count of year
 // numbers crossed since birth at the start of the dasa.
-TEST(Dasa, SampleChartDasaEnds) {
-  Filled f;
-  Fill(SampleChart(), f);
+TEST_F(SampleDasa, SampleChartDasaEnds) {
   const Grid& g = f.tables.mshDasa;
   ASSERT_EQ(g.Rows(), 10);
   ASSERT_EQ(g.Cols(), 4);
@@ -97,9 +100,7 @@ TEST(Dasa, SampleChartDasaEnds) {
 // 24 days; Jupiter 0.8 is 9 months 18 days; Saturn 0.95 is 11 months 12 days,
 // ending 18 May 1965, before birth. Mercury 0.85 (10 months 6 days) runs over
 // the birth: 18 May 1965 + 6 days + 10 months = 24 Mar 1966.
-TEST(Dasa, SampleChartFirstSubPeriods) {
-  Filled f;
-  Fill(SampleChart(), f);
+TEST_F(SampleDasa, SampleChartFirstSubPeriods) {
   EXPECT_EQ(f.tables.BhuktiLord[0], "Sun");
   EXPECT_EQ(f.tables.BhuktiEnd[0], OleDate::FromParts(1961, 11, 19, 14, 15));
   EXPECT_EQ(f.tables.BhuktiEnd[5], OleDate::FromParts(1965, 5, 18, 14, 15));
@@ -117,20 +118,16 @@ TEST(Dasa, SampleChartFirstSubPeriods) {
 
 // The rows of tempBhukthi are those of the grid with the dasa's name beside
 // them, handed over in one call for the user id.
-TEST(Dasa, SubPeriodsGoToTheSinkOnce) {
-  Filled f;
-  Fill(SampleChart(), f, "Velnesh");
+TEST_F(SampleDasa, SubPeriodsGoToTheSinkOnce) {
   EXPECT_EQ(f.sink.calls, 1);
   EXPECT_EQ(f.sink.lastUser, "Velnesh");
   ASSERT_EQ(f.sink.lastRows.size(), 75U);
   EXPECT_EQ(f.sink.lastRows[0], (BhukthiRow{"Sun", "Mercury", "14/Jul/1965", "24/Mar/1966", "0"}));
   EXPECT_EQ(f.sink.lastRows[3], (BhukthiRow{"Moon", "Moon", "30/Jul/1967", "30/May/1968", "2"}));
   for (size_t i = 0; i < f.sink.lastRows.size(); ++i) {
-    const auto grid = Row(f.tables.mshBukti, static_cast<int>(i) + 1);
-    EXPECT_EQ(grid[0], f.sink.lastRows[i].bhukthiName + " Dasa");
-    EXPECT_EQ(grid[1], f.sink.lastRows[i].start);
-    EXPECT_EQ(grid[2], f.sink.lastRows[i].end);
-    EXPECT_EQ(grid[3], f.sink.lastRows[i].age);
+    const BhukthiRow& r = f.sink.lastRows[i];
+    EXPECT_EQ(Row(f.tables.mshBukti, static_cast<int>(i) + 1),
+              (std::vector<std::string>{r.bhukthiName + " Dasa", r.start, r.end, r.age}));
   }
   // A second chart for the same user is handed over whole, in a call of its own.
   Fill(SampleChart(300.0), f, "Velnesh");
@@ -172,9 +169,7 @@ TEST(Dasa, AntraLengths) {
 
 // The antras run from birth, one after another, under a section row per
 // bhukti.
-TEST(Dasa, AntraGrid) {
-  Filled f;
-  Fill(SampleChart(), f);
+TEST_F(SampleDasa, AntraGrid) {
   const Grid& g = f.tables.mshAntra;
   ASSERT_EQ(g.Rows(), 1 + 81 * 10);
   EXPECT_EQ(g.Text(0, 0), "Antra     ");

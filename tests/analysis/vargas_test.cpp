@@ -13,40 +13,24 @@
 
 #include "common/calculation_error.h"
 #include "support/charts_master.h"
+#include "support/sample_chart.h"
 #include "support/test_data.h"
 
 namespace kelvaro {
 namespace {
 
-constexpr std::array<const char*, 12> kEnglishRasi = {"Aries", "Taurus",     "Gemini",   "Cancer",
-                                                      "Leo",   "Virgo",      "Libra",    "Scorpio",
-                                                      "Sagitarius", "Capricon", "Aquarius", "Pisces"};
-constexpr std::array<const char*, 12> kEnglishRasiShort = {"Ari", "Tau", "Gem", "Can", "Leo", "Vir",
-                                                           "Lib", "Sco", "Sag", "Cap", "Aqu", "Pis"};
-constexpr std::array<const char*, 12> kSanskritRasi = {"Mesha", "Rishaba",   "Mithuna", "Kataka",
-                                                       "Simha", "Kanya",     "Tula",    "Vrischika",
-                                                       "Dhanus", "Makara",   "Kumbha",  "Meena"};
-constexpr std::array<const char*, 12> kSanskritRasiShort = {"Mes", "Ris", "Mit", "Kat", "Sim", "Kan",
-                                                            "Tul", "Vri", "Dha", "Mak", "Kum", "Mee"};
-
-ChartData ChartWith(const std::array<double, 10>& longitudes, const std::string& language = "English") {
-  ChartData c;
+// The rasis' short names are the first three letters of the long ones in both
+// name lists ("Ari", "Ris").
+// Longitudes Lagna to Maandi; those left out are 0.
+ChartData ChartWith(const std::array<double, 12>& longitudes, const std::string& language = "English") {
+  ChartData c = language == "Sanskrit" ? testing::SanskritNames() : testing::EnglishNames();
   c.language = language;
-  const bool sanskrit = language == "Sanskrit";
-  for (size_t i = 0; i < 12; ++i) {
-    c.RasiNames[i] = sanskrit ? kSanskritRasi[i] : kEnglishRasi[i];
-    c.RasiShortNames[i] = sanskrit ? kSanskritRasiShort[i] : kEnglishRasiShort[i];
-  }
-  for (size_t b = 0; b < 10; ++b) c.longitude[b] = longitudes[b];
+  for (size_t i = 0; i < 12; ++i) c.RasiShortNames[i] = c.RasiNames[i].substr(0, 3);
+  c.longitude = longitudes;
   return c;
 }
 
-// Lagna to Ketu of the sample chart (14/07/1965 14:15, 17N20 78E30, zone
-// 5.5 E) as the position pass gives them.
-constexpr std::array<double, 10> kSample = {205.24722234655192, 88.3175878697087,  275.4561828767856,
-                                            164.6582273760534,  114.62903806815622, 55.498183964240155,
-                                            112.99345829639297, 323.6090305022042,  48.314118595505974,
-                                            228.31411859550596};
+constexpr const std::array<double, 12>& kSample = testing::kSampleLongitude;
 
 struct Question {
   std::string chart;

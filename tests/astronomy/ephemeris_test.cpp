@@ -13,8 +13,11 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <sstream>
+#include <string>
 
 #include "astronomy/find_planet_position.h"
+#include "support/test_data.h"
 
 namespace kelvaro {
 namespace {
@@ -37,46 +40,34 @@ TEST(TextbookExamples, SunMoonAndVenus) {
   EXPECT_NEAR(Tropical(1992, 12, 20, 0, 0).FnFindVenusPosition(), 313.08102, 0.02);
 }
 
-struct Case {
-  int y, m, d, h, n;
-  const char* ns;
-  double latDeg, latMin;
-  const char* ew;
-  double lonDeg, lonMin, zone;
-  const char* side;
-  const char* utc;
-  double expected[7];  // Sun, Moon, Mercury, Venus, Mars, Jupiter, Saturn
-};
-
-const Case kCases[] = {
-    {1965, 7, 14, 14, 15, "N", 17, 20, "E", 78, 30, 5.5, "E", "1965-07-14T08:45:00Z",
-     {111.689141, 298.825555, 137.994773, 136.360641, 188.023071, 78.863021, 347.006076}},
-    {2012, 12, 21, 23, 45, "S", 33, 52, "E", 151, 12, 10, "E", "2012-12-21T13:45:00Z",
-     {270.108531, 15.548128, 254.856777, 246.720112, 296.511336, 68.888996, 218.670772}},
-    {1990, 7, 4, 6, 30, "N", 40, 43, "W", 74, 0, 5, "W", "1990-07-04T11:30:00Z",
-     {102.239457, 242.432565, 104.37324, 71.242206, 24.438431, 110.079047, 292.772455}},
-    {2099, 12, 31, 23, 59, "S", 64, 10, "W", 51, 43, 3, "W", "2100-01-01T02:59:00Z",
-     {280.732341, 159.175592, 288.210101, 320.222153, 29.577353, 201.219877, 205.637656}},
-};
-
 TEST(ModernEphemeris, WithinThePrecisionOfTheTheory) {
   const char* names[7] = {"Sun", "Moon", "Mercury", "Venus", "Mars", "Jupiter", "Saturn"};
   const double tolerance[7] = {0.005, 0.04, 0.02, 0.02, 0.02, 0.05, 0.05};  // degrees
   double worst[7] = {};
-  for (const Case& c : kCases) {
+  // From tests/data/astronomy/modern_ephemeris.txt.
+  const auto rows = testing::TestDataTable("astronomy/modern_ephemeris.txt");
+  ASSERT_EQ(rows.size(), 4u);
+  for (const auto& row : rows) {
+    ASSERT_EQ(row.size(), 6u);
+    int y = 0, m = 0, d = 0, h = 0, n = 0;
+    ASSERT_EQ(std::sscanf(row[0].c_str(), "%d-%d-%d %d:%d", &y, &m, &d, &h, &n), 5);
+    const auto lat = testing::ReadSided(row[1]), lon = testing::ReadSided(row[2]), zone = testing::ReadSided(row[3]);
     ClsFindPlanetPosition f;
-    f.FindFixValues(OleDate::FromParts(c.y, c.m, c.d, c.h, c.n), c.ns, c.latDeg, c.latMin, c.ew, c.lonDeg, c.lonMin,
-                    c.zone, c.side, 0, "Sayana", 0, 0);
+    f.FindFixValues(OleDate::FromParts(y, m, d, h, n), lat.side, lat.value, lat.minutes, lon.side, lon.value,
+                    lon.minutes, zone.value, zone.side, 0, "Sayana", 0, 0);
+    std::istringstream expected(row[5]);
     const double got[7] = {f.FnFindSunPosition(), f.FnFindMoonPosition(), f.FnFindMercuryPosition(),
                            f.FnFindVenusPosition(), f.FnFindMarsPosition(), f.FnFindJupiterPosition(),
                            f.FnFindSaturnPosition()};
     for (int k = 0; k < 7; ++k) {
-      const double diff = AngleBetween(got[k], c.expected[k]);
+      double want = 0;
+      ASSERT_TRUE(expected >> want) << names[k];
+      const double diff = AngleBetween(got[k], want);
       worst[k] = std::max(worst[k], diff);
-      EXPECT_LE(diff, tolerance[k]) << names[k] << " at " << c.utc;
+      EXPECT_LE(diff, tolerance[k]) << names[k] << " at " << row[4];
     }
   }
-  for (int k = 0; k < 7; ++k) std::printf("%s: max %.4f deg over %zu moments\n", names[k], worst[k], std::size(kCases));
+  for (int k = 0; k < 7; ++k) std::printf("%s: max %.4f deg over %zu moments\n", names[k], worst[k], rows.size());
 }
 
 }  // namespace

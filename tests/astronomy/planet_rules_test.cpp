@@ -92,6 +92,9 @@ TEST(Normalisers, ArcTan2Quadrants) {
       {0, 0, 0},                     {1, 1, std::atan(1.0)},
       {1, -1, std::atan(-1.0) + 3.14159265358979}, {-1, 1, std::atan(-1.0) + 6.28318530717958},
       {0, -2, 3.14159265358979},
+      // The Lagna with zero sidereal time on the equator: c = 1, q = -0, so
+      // the x = 0, y > 0 branch, 90 degrees tropical.
+      {1, -0.0, 3.14159265358979 / 2},
   };
   for (const auto& c : cases) EXPECT_EQ(ClsPlanet::FnArcTan2(c.y, c.x), c.expected) << c.y << "," << c.x;
 }
@@ -240,12 +243,6 @@ TEST(Failures, LongitudeTextThatIsNoNumber) {
                CalculationError);
   EXPECT_NO_THROW(f.FindFixValues(OleDate::FromParts(1965, 7, 14, 14, 15), "N", 17, 20, "E", 78, 30.5, 5.5, "E", 0,
                                   "Lahiri", 0, 0));
-}
-
-TEST(Lagna, ZeroSiderealTimeOnTheEquator) {
-  // With theta = 0 and phi = 0: c = 1, q = -0 - 0 = -0, FnArcTan2(1, -0) is the
-  // x = 0, y > 0 branch: 90 degrees tropical.
-  EXPECT_EQ(ClsPlanet::FnArcTan2(1, -0.0) * (180 / 3.14159265358979), 90.0);
 }
 
 }  // namespace

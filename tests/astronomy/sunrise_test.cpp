@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstdio>
 #include <limits>
+#include <sstream>
 #include <string>
 
 #include "astronomy/find_sunrise.h"
@@ -13,6 +14,7 @@
 #include "common/calculation_error.h"
 #include "common/date_text.h"
 #include "common/ole_date.h"
+#include "support/test_data.h"
 
 namespace kelvaro {
 
@@ -33,13 +35,8 @@ struct SunriseTestPeer {
 
 namespace {
 
-// Reference times were worked with the NOAA solar-position equations (Meeus's
-// low-precision Sun and the equation of time), an altitude of -0.833 degrees,
-// and a bisection on the altitude: a different theory and a different search
-// from the code under test. They agree with published tables (for example
-// London, 21 Jun 2023: 03:43 and 20:21 GMT; Sydney, 21 Dec 2023: 04:41 and
-// 19:05 AEST; New York, 21 Jun 2023: 04:25 and 19:31 EST).
-//
+// Reference times were worked with the NOAA solar-position equations and a
+// bisection on the altitude (see tests/data/astronomy/almanac_sun_times.txt).
 // Tolerance: 2 minutes. The engine rounds to the whole minute (up to 30 s),
 // its small solar theory is good to about an arc minute (a few seconds of
 // time at these latitudes), and the reference itself to well under a minute.
@@ -74,41 +71,32 @@ double SecondsBetween(OleDate a, OleDate b) { return (a.Linear() - b.Linear()) *
 
 OleDate At(int y, int m, int d, int hh, int mm, int ss) { return OleDate::FromParts(y, m, d, hh, mm, ss); }
 
+// The places and days of tests/data/astronomy/almanac_sun_times.txt.
 TEST(Sunrise, AgreesWithAlmanacTimes) {
-  struct Case {
-    const char* name;
-    Place place;
-    int y, m, d;
-    int riseH, riseM, riseS;
-    int setH, setM, setS;
-  } cases[] = {
-      {"Hyderabad 14 Jul 1965", kHyderabad, 1965, 7, 14, 5, 49, 17, 18, 54, 1},
-      {"Hyderabad March equinox", kHyderabad, 2023, 3, 21, 6, 19, 47, 18, 27, 1},
-      {"Hyderabad December solstice", kHyderabad, 2023, 12, 22, 6, 41, 29, 17, 47, 10},
-      // 0W07 with deg = 0 stays East: the reference is worked for 0E07.
-      {"London June", {"N", 51, 30, "W", 0, 7, 0, "E"}, 2023, 6, 21, 3, 42, 5, 20, 20, 30},
-      {"Sydney December", {"S", 33, 52, "E", 151, 12, 10, "E"}, 2023, 12, 21, 4, 40, 34, 19, 5, 19},
-      {"New York December", {"N", 40, 43, "W", 74, 0, 5, "W"}, 2023, 12, 21, 7, 16, 26, 16, 31, 39},
-      // A zone 5.5 hours West of Greenwich at Hyderabad: the clock day runs
-      // from 05:30 to 05:30 UT, so the set (13:24 UT) comes before the rise
-      // (00:19 UT the next day), both stamped on the date.
-      {"Hyderabad clock 5.5W", {"N", 17, 20, "E", 78, 30, 5.5, "W"}, 1965, 7, 14, 18, 49, 37, 7, 54, 1},
-  };
+  const auto rows = testing::TestDataTable("astronomy/almanac_sun_times.txt");
+  ASSERT_EQ(rows.size(), 7u);
   double worst = 0;
-  for (const auto& c : cases) {
-    const OleDate date = OleDate::FromParts(c.y, c.m, c.d);
-    const OleDate rise = Sunrise(c.place, date);
-    const OleDate set = Sunset(c.place, date);
-    const double riseError = SecondsBetween(rise, At(c.y, c.m, c.d, c.riseH, c.riseM, c.riseS));
-    const double setError = SecondsBetween(set, At(c.y, c.m, c.d, c.setH, c.setM, c.setS));
-    EXPECT_LE(std::fabs(riseError), kTwoMinutesInSeconds) << c.name << " rise " << FormatDate(rise, "dd/mm/yyyy hh:nn");
-    EXPECT_LE(std::fabs(setError), kTwoMinutesInSeconds) << c.name << " set " << FormatDate(set, "dd/mm/yyyy hh:nn");
-    EXPECT_EQ(rise.Second(), 0) << c.name;
-    EXPECT_EQ(set.Second(), 0) << c.name;
+  for (const auto& row : rows) {
+    ASSERT_EQ(row.size(), 7u);
+    SCOPED_TRACE(row[0]);
+    const auto lat = testing::ReadSided(row[1]), lon = testing::ReadSided(row[2]), zone = testing::ReadSided(row[3]);
+    const Place place{lat.side.c_str(), lat.value, lat.minutes, lon.side.c_str(), lon.value, lon.minutes, zone.value,
+                      zone.side.c_str()};
+    int y = 0, m = 0, d = 0, rh = 0, rm = 0, rs = 0, sh = 0, sm = 0, ss = 0;
+    ASSERT_EQ(std::sscanf(row[4].c_str(), "%d-%d-%d", &y, &m, &d), 3);
+    ASSERT_EQ(std::sscanf(row[5].c_str(), "%d:%d:%d", &rh, &rm, &rs), 3);
+    ASSERT_EQ(std::sscanf(row[6].c_str(), "%d:%d:%d", &sh, &sm, &ss), 3);
+    const OleDate rise = Sunrise(place, OleDate::FromParts(y, m, d));
+    const OleDate set = Sunset(place, OleDate::FromParts(y, m, d));
+    const double riseError = SecondsBetween(rise, At(y, m, d, rh, rm, rs));
+    const double setError = SecondsBetween(set, At(y, m, d, sh, sm, ss));
+    EXPECT_LE(std::fabs(riseError), kTwoMinutesInSeconds) << "rise " << FormatDate(rise, "dd/mm/yyyy hh:nn");
+    EXPECT_LE(std::fabs(setError), kTwoMinutesInSeconds) << "set " << FormatDate(set, "dd/mm/yyyy hh:nn");
+    EXPECT_EQ(rise.Second(), 0);
+    EXPECT_EQ(set.Second(), 0);
     worst = std::max({worst, std::fabs(riseError), std::fabs(setError)});
   }
-  std::printf("Sunrise and sunset: max %.0f s from the reference over %zu places and dates\n", worst,
-              sizeof cases / sizeof cases[0]);
+  std::printf("Sunrise and sunset: max %.0f s from the reference over %zu places and dates\n", worst, rows.size());
 }
 
 // PlaceAtZeroDegreesKeepsItsHemisphere: 0 W 7 lies 14 minutes of arc west
@@ -249,10 +237,7 @@ TEST(Sunrise, ParabolaRoots) {
   EXPECT_EQ(p.nz, 0);
   EXPECT_EQ(p.x1, 0.3);
   EXPECT_EQ(p.x2, 0.7);
-}
-
-TEST(Sunrise, ThreeAltitudesOnALineAreADivisionByZero) {
-  SunriseTestPeer::Parabola p;
+  // Three altitudes on a line: no parabola, a division by zero.
   EXPECT_THROW(SunriseTestPeer::Roots(0.2, 0.2, 0.2, p), CalculationError);
   EXPECT_THROW(SunriseTestPeer::Roots(0.1, 0.2, 0.3, p), CalculationError);
 }

@@ -15,10 +15,8 @@ namespace {
 class ChartCommand : public ::testing::Test {
  protected:
   std::vector<std::string> Sample(std::vector<std::string> extra) const {
-    std::vector<std::string> a = {"chart", "--date", "14/07/1965", "--time", "14:15", "--lat", "17N20",
-                                  "--lon", "78E30",  "--tz",       "5.5E",   "--database", (folder_ / "k.db").string()};
-    a.insert(a.end(), extra.begin(), extra.end());
-    return a;
+    extra.insert(extra.end(), {"--database", (folder_ / "k.db").string()});
+    return SampleBirth("chart", extra);
   }
   store::testing::TempFolder folder_;
 };

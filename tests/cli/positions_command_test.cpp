@@ -1,6 +1,7 @@
 // kelvaro-cli positions: the JSON contract, the table, bad input and batches.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <nlohmann/json.hpp>
@@ -15,10 +16,12 @@
 namespace kelvaro::cli {
 namespace {
 
-std::vector<std::string> Sample(std::vector<std::string> extra = {}) {
-  std::vector<std::string> a = {"positions", "--date", "14/07/1965", "--time", "14:15", "--lat",
-                                "17N20",     "--lon",  "78E30",      "--tz",   "5.5E"};
-  a.insert(a.end(), extra.begin(), extra.end());
+std::vector<std::string> Sample(const std::vector<std::string>& extra = {}) { return SampleBirth("positions", extra); }
+
+// The sample's arguments with one flag's value replaced.
+std::vector<std::string> SampleWith(const std::string& flag, const std::string& value) {
+  std::vector<std::string> a = Sample();
+  *(std::find(a.begin(), a.end(), flag) + 1) = value;
   return a;
 }
 
@@ -65,28 +68,17 @@ TEST(PositionsCommand, BadInputNamesTheFieldAndPrintsNothing) {
     std::vector<std::string> args;
     std::string message;
   } cases[] = {
-      {{"positions", "--date", "31/02/1965", "--time", "14:15", "--lat", "17N20", "--lon", "78E30", "--tz", "5.5E"},
-       "--date \"31/02/1965\": there is no such day"},
-      {{"positions", "--date", "14/07/1965", "--time", "14:75", "--lat", "17N20", "--lon", "78E30", "--tz", "5.5E"},
-       "--time \"14:75\": minute must be 0 to 59"},
-      {{"positions", "--date", "14/07/1965", "--time", "14:15", "--lat", "95N00", "--lon", "78E30", "--tz", "5.5E"},
-       "--lat \"95N00\": degrees must be 0 to 90"},
+      {SampleWith("--date", "31/02/1965"), "--date \"31/02/1965\": there is no such day"},
+      {SampleWith("--time", "14:75"), "--time \"14:75\": minute must be 0 to 59"},
+      {SampleWith("--lat", "95N00"), "--lat \"95N00\": degrees must be 0 to 90"},
       // The birth form's years, everywhere.
-      {{"positions", "--date", "31/12/1799", "--time", "14:15", "--lat", "17N20", "--lon", "78E30", "--tz", "5.5E"},
-       "--date \"31/12/1799\": year must be 1800 to 3000"},
-      {{"positions", "--date", "01/01/3001", "--time", "14:15", "--lat", "17N20", "--lon", "78E30", "--tz", "5.5E"},
-       "--date \"01/01/3001\": year must be 1800 to 3000"},
+      {SampleWith("--date", "31/12/1799"), "--date \"31/12/1799\": year must be 1800 to 3000"},
+      {SampleWith("--date", "01/01/3001"), "--date \"01/01/3001\": year must be 1800 to 3000"},
       // NumbersTooLargeAreNotReadAsZero.
-      {{"positions", "--date", "14/07/1965", "--time", "14:15", "--lat", "99999999999N00", "--lon", "78E30", "--tz",
-        "5.5E"},
-       "--lat \"99999999999N00\": degrees must be 0 to 90"},
-      {{"positions", "--date", "14/07/1965", "--time", "14:15", "--lat", "17N20", "--lon", "78E4294967296", "--tz",
-        "5.5E"},
-       "--lon \"78E4294967296\": minutes must be 0 to 59"},
-      {{"positions", "--date", "14/07/1965", "--time", "14:15", "--lat", "17N20", "--lon", "78X30", "--tz", "5.5E"},
-       "--lon \"78X30\""},
-      {{"positions", "--date", "14/07/1965", "--time", "14:15", "--lat", "17N20", "--lon", "78E30", "--tz", "15E"},
-       "--tz \"15E\": a zone is at most 14 hours from Greenwich"},
+      {SampleWith("--lat", "99999999999N00"), "--lat \"99999999999N00\": degrees must be 0 to 90"},
+      {SampleWith("--lon", "78E4294967296"), "--lon \"78E4294967296\": minutes must be 0 to 59"},
+      {SampleWith("--lon", "78X30"), "--lon \"78X30\""},
+      {SampleWith("--tz", "15E"), "--tz \"15E\": a zone is at most 14 hours from Greenwich"},
       {Sample({"--ayanamsa", "lahiri"}), "--ayanamsa \"lahiri\""},
       // A value is quoted cut short and with its control characters escaped.
       {Sample({"--ayanamsa", "Lahiri\n" + std::string(100, 'x')}), "--ayanamsa \"Lahiri\\n" + std::string(53, 'x') + "...\""},

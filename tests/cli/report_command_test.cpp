@@ -14,10 +14,8 @@ namespace {
 class ReportCommand : public ::testing::Test {
  protected:
   std::vector<std::string> Sample(std::vector<std::string> extra) const {
-    std::vector<std::string> a = {"report", "--date", "14/07/1965", "--time", "14:15", "--lat", "17N20",
-                                  "--lon",  "78E30",  "--tz",       "5.5E",   "--database", (folder_ / "k.db").string()};
-    a.insert(a.end(), extra.begin(), extra.end());
-    return a;
+    extra.insert(extra.end(), {"--database", (folder_ / "k.db").string()});
+    return SampleBirth("report", extra);
   }
   static long Pages(const std::string& text) { return std::count(text.begin(), text.end(), '\f') + 1; }
   store::testing::TempFolder folder_;

@@ -14,6 +14,15 @@ struct Outcome {
   std::string err;
 };
 
+// A command on the sample birth (14/07/1965 14:15 at 17N20 78E30, 5.5E),
+// then the given arguments.
+inline std::vector<std::string> SampleBirth(const std::string& command, const std::vector<std::string>& extra) {
+  std::vector<std::string> a = {command, "--date", "14/07/1965", "--time", "14:15", "--lat", "17N20",
+                                "--lon",  "78E30",  "--tz",       "5.5E"};
+  a.insert(a.end(), extra.begin(), extra.end());
+  return a;
+}
+
 inline Outcome RunTool(std::vector<std::string> args) {
   args.insert(args.begin(), "kelvaro-cli");
   std::vector<const char*> argv;

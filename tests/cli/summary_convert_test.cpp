@@ -19,10 +19,8 @@ class SummaryAndConvert : public ::testing::Test {
  protected:
   std::string Db() const { return (folder_ / "DBMirvaneBasic.db").string(); }
   std::vector<std::string> Sample(std::vector<std::string> extra) const {
-    std::vector<std::string> a = {"summary", "--date", "14/07/1965", "--time", "14:15", "--lat", "17N20",
-                                  "--lon",   "78E30",  "--tz",       "5.5E",   "--database", Db()};
-    a.insert(a.end(), extra.begin(), extra.end());
-    return a;
+    extra.insert(extra.end(), {"--database", Db()});
+    return SampleBirth("summary", extra);
   }
   store::testing::TempFolder folder_;
 };
@@ -75,8 +73,9 @@ TEST_F(SummaryAndConvert, SummaryOfASavedChart) {
 
 TEST_F(SummaryAndConvert, SummaryBadInput) {
   EXPECT_EQ(RunTool(Sample({"--language", "Hindi"})).status, kExitBadInput);
-  const Outcome r = RunTool({"summary", "--date", "31/02/1965", "--time", "14:15", "--lat", "17N20", "--lon", "78E30",
-                             "--tz", "5.5E", "--database", Db()});
+  std::vector<std::string> args = Sample({});
+  args[2] = "31/02/1965";
+  const Outcome r = RunTool(args);
   EXPECT_EQ(r.status, kExitBadInput);
   EXPECT_NE(r.err.find("--date \"31/02/1965\""), std::string::npos) << r.err;
   EXPECT_TRUE(r.out.empty());

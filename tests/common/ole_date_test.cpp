@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <stdexcept>
 
 #include "common/calculation_error.h"
@@ -10,6 +11,9 @@ namespace kelvaro {
 namespace {
 
 constexpr double kSecond = 1.0 / 86400.0;
+
+// The parts as one value, so that a row is compared in one expectation.
+std::array<int, 6> Fields(const DateParts& p) { return {p.year, p.month, p.day, p.hour, p.minute, p.second}; }
 
 TEST(OleDate, KnownSerials) {
   struct Case {
@@ -28,12 +32,7 @@ TEST(OleDate, KnownSerials) {
   for (const auto& c : cases) {
     const OleDate d = OleDate::FromParts(c.y, c.m, c.d, c.h, c.n, c.s);
     EXPECT_NEAR(d.Value(), c.serial, 1e-9) << c.y << "-" << c.m << "-" << c.d;
-    const DateParts p = OleDate(c.serial).Parts();
-    EXPECT_EQ(p.year, c.y);
-    EXPECT_EQ(p.month, c.m);
-    EXPECT_EQ(p.day, c.d);
-    EXPECT_EQ(p.hour, c.h);
-    EXPECT_EQ(p.minute, c.n);
+    EXPECT_EQ(Fields(OleDate(c.serial).Parts()), (std::array<int, 6>{c.y, c.m, c.d, c.h, c.n, c.s}));
   }
 }
 
@@ -49,10 +48,7 @@ TEST(OleDate, InvalidDatesAreRefused) {
 TEST(OleDate, PartsAreReadRoundedToTheSecond) {
   // 23:59:59.6 reads as the next day's midnight.
   const OleDate late(OleDate::FromParts(1965, 7, 14, 23, 59, 59).Linear() + 0.6 * kSecond);
-  const DateParts p = late.Parts();
-  EXPECT_EQ(p.day, 15);
-  EXPECT_EQ(p.hour, 0);
-  EXPECT_EQ(p.second, 0);
+  EXPECT_EQ(Fields(late.Parts()), (std::array<int, 6>{1965, 7, 15, 0, 0, 0}));
   const OleDate early(OleDate::FromParts(1965, 7, 14, 10, 0, 0).Linear() + 0.4 * kSecond);
   EXPECT_EQ(early.Second(), 0);
 }
@@ -83,13 +79,8 @@ TEST(DateAdd, CountIsMadeWholeHalfToEven) {
       {"n", 1.5, 2000, 1, 1, 6, 2, 0},
   };
   for (const auto& c : cases) {
-    const DateParts p = DateAdd(c.interval, c.count, base).Parts();
-    EXPECT_EQ(p.year, c.y) << c.interval << " " << c.count;
-    EXPECT_EQ(p.month, c.m) << c.interval << " " << c.count;
-    EXPECT_EQ(p.day, c.d) << c.interval << " " << c.count;
-    EXPECT_EQ(p.hour, c.h) << c.interval << " " << c.count;
-    EXPECT_EQ(p.minute, c.n) << c.interval << " " << c.count;
-    EXPECT_EQ(p.second, c.s) << c.interval << " " << c.count;
+    EXPECT_EQ(Fields(DateAdd(c.interval, c.count, base).Parts()), (std::array<int, 6>{c.y, c.m, c.d, c.h, c.n, c.s}))
+        << c.interval << " " << c.count;
   }
 }
 
@@ -107,25 +98,16 @@ TEST(DateAdd, MonthsAndYearsClampToMonthEnd) {
   };
   for (const auto& c : cases) {
     const OleDate start = OleDate::FromParts(c.y0, c.m0, c.d0, 14, 15);
-    const DateParts p = DateAdd(c.interval, c.count, start).Parts();
-    EXPECT_EQ(p.year, c.y);
-    EXPECT_EQ(p.month, c.m);
-    EXPECT_EQ(p.day, c.d);
-    EXPECT_EQ(p.hour, 14);  // the clock is kept
-    EXPECT_EQ(p.minute, 15);
+    // The clock is kept.
+    EXPECT_EQ(Fields(DateAdd(c.interval, c.count, start).Parts()), (std::array<int, 6>{c.y, c.m, c.d, 14, 15, 0}));
   }
 }
 
 TEST(DateAdd, BeforeTheEpochFollowsTheCalendar) {
   const OleDate d = OleDate::FromParts(1899, 12, 29, 6, 0);
-  const DateParts p = DateAdd("h", 6, d).Parts();
-  EXPECT_EQ(p.day, 29);
-  EXPECT_EQ(p.hour, 12);
-  const DateParts q = DateAdd("h", 18, d).Parts();
-  EXPECT_EQ(q.day, 30);
-  EXPECT_EQ(q.hour, 0);
-  EXPECT_EQ(DateAdd("d", 1, d).Parts().day, 30);
-  EXPECT_EQ(DateAdd("d", 1, d).Parts().hour, 6);
+  EXPECT_EQ(Fields(DateAdd("h", 6, d).Parts()), (std::array<int, 6>{1899, 12, 29, 12, 0, 0}));
+  EXPECT_EQ(Fields(DateAdd("h", 18, d).Parts()), (std::array<int, 6>{1899, 12, 30, 0, 0, 0}));
+  EXPECT_EQ(Fields(DateAdd("d", 1, d).Parts()), (std::array<int, 6>{1899, 12, 30, 6, 0, 0}));
 }
 
 TEST(DateAdd, CountBeyond32BitsIsAnError) {

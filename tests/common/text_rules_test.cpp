@@ -81,13 +81,7 @@ TEST(DateText, FixedPatternsParse) {
   for (const auto& c : cases) {
     const auto parsed = ParseDateTime(c.text);
     ASSERT_TRUE(parsed.has_value()) << c.text;
-    const DateParts p = parsed->Parts();
-    EXPECT_EQ(p.year, c.y) << c.text;
-    EXPECT_EQ(p.month, c.m) << c.text;
-    EXPECT_EQ(p.day, c.d) << c.text;
-    EXPECT_EQ(p.hour, c.h) << c.text;
-    EXPECT_EQ(p.minute, c.n) << c.text;
-    EXPECT_EQ(p.second, c.s) << c.text;
+    EXPECT_EQ(*parsed, OleDate::FromParts(c.y, c.m, c.d, c.h, c.n, c.s)) << c.text;
   }
   for (const char* bad : {"31/04/1965", "29/02/1965", "14/13/1965", "14/07/1965 14:75", "14/07/1965 25:00",
                           "14/07/1965 13:00 PM", "14.07.1965", "", "14/Foo/1965", "14/07/1965 14:15 XM"}) {

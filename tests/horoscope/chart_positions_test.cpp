@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <string>
 
 #include "common/calculation_error.h"
 #include "common/date_text.h"
@@ -41,86 +42,81 @@ double LagnaAt(OleDate moment) {
   return f.FnFindLagnaPosition();
 }
 
-TEST(ChartPositions, DayBirthTakesTheDayParts) {
+// Gulika rises at the start of a weekday's eighth and Maandi at that of a
+// thirtieth, of the day or of the night, on the date of the day's sunrise or,
+// after midnight, on the next; the astrological day's current date follows.
+TEST(ChartPositions, GulikaAndMaandiByDayAndNight) {
+  const struct {
+    int hour;
+    const char* why;
+    const char* dayOrNight;
+    const char* sunriseDate;
+    int gulikaPart, maandiPart;
+    bool nextDate;
+    const char* currentDate;
+  } cases[] = {
+      {14, "Wednesday day", "Day", "14/07/1965", 4, 14, false, "14/07/1965"},
+      {3, "03:00 on Wednesday is Tuesday's night, both in the evening", "Night", "13/07/1965", 1, 2, false,
+       "13/07/1965"},
+      {22, "Wednesday night, both after midnight", "Night", "14/07/1965", 7, 26, true, "15/07/1965"},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(c.why);
+    CalculationContext ctx;
+    SetBirth(ctx, 14, c.hour, c.hour == 14 ? 15 : 0);
+    ComputeChartPositions(ctx, kRasiDivision);
+    const HoroscopeState& s = ctx.state;
+    EXPECT_EQ(s.DayOrNight, c.dayOrNight);
+    EXPECT_EQ(FormatDate(s.DaySunrise, "DD/MM/YYYY"), c.sunriseDate);
+    EXPECT_EQ(DateDiff(Interval::Day, s.DaySunrise, s.DayNextSunrise), 1);
+    const bool day = std::string(c.dayOrNight) == "Day";
+    const OleDate from = day ? s.DaySunrise : s.DaySunset;
+    const OleDate to = day ? s.DaySunset : s.DayNextSunrise;
+    const OleDate date = c.nextDate ? DateAdd(Interval::Day, 1, s.DaySunrise) : s.DaySunrise;
+    const OleDate gulika = Minute(date, PartsFrom(from, to, 8, c.gulikaPart));
+    const OleDate maandi = Minute(date, PartsFrom(from, to, 30, c.maandiPart));
+    EXPECT_EQ(FormatDate(s.GulikaMoment, "DD/MM/YYYY HH:NN"), FormatDate(gulika, "DD/MM/YYYY HH:NN"));
+    EXPECT_EQ(FormatDate(s.MandiMoment, "DD/MM/YYYY HH:NN"), FormatDate(maandi, "DD/MM/YYYY HH:NN"));
+    EXPECT_DOUBLE_EQ(s.GulikaLon, LagnaAt(gulika));
+    EXPECT_DOUBLE_EQ(s.MaandiLon, LagnaAt(maandi));
+    EXPECT_EQ(FormatDate(s.DayCurrentDate, "DD/MM/YYYY"), c.currentDate);
+  }
+}
+
+TEST(ChartPositions, DayBirthKeepsItsMomentAndRasis) {
   CalculationContext ctx;  // the sample chart: Wednesday 14 July 1965, 14:15
   ComputeChartPositions(ctx, kRasiDivision);
   const HoroscopeState& s = ctx.state;
-  EXPECT_EQ(s.DayOrNight, "Day");
   EXPECT_EQ(FormatDate(s.BirthMomentDate, "DD/MM/YYYY HH:NN"), "14/07/1965 14:15");
   EXPECT_EQ(s.DayCurrentDate, s.BirthMomentDate);
   EXPECT_EQ(s.DaySunrise, s.SunriseOfBirthDay);
   EXPECT_EQ(FormatDate(s.SunriseNextDay, "DD/MM/YYYY"), "15/07/1965");
-  // Wednesday: Gulika rises at the 4th day eighth, Maandi at the 14th day thirtieth.
-  const OleDate gulika = Minute(s.DaySunrise, PartsFrom(s.DaySunrise, s.DaySunset, 8, 4));
-  const OleDate maandi = Minute(s.DaySunrise, PartsFrom(s.DaySunrise, s.DaySunset, 30, 14));
-  EXPECT_EQ(FormatDate(s.GulikaMoment, "DD/MM/YYYY HH:NN"), FormatDate(gulika, "DD/MM/YYYY HH:NN"));
-  EXPECT_EQ(FormatDate(s.MandiMoment, "DD/MM/YYYY HH:NN"), FormatDate(maandi, "DD/MM/YYYY HH:NN"));
-  EXPECT_DOUBLE_EQ(s.GulikaLon, LagnaAt(gulika));
-  EXPECT_DOUBLE_EQ(s.MaandiLon, LagnaAt(maandi));
   EXPECT_EQ(s.GulikaRasi, RasiOfLongitude(s.GulikaLon, 30));
   // The ten bodies' rasis of the sample chart, from their longitudes.
   const int rasis[10] = {7, 3, 10, 6, 4, 2, 4, 11, 2, 8};
   for (int b = 0; b < 10; ++b) EXPECT_EQ(s.RasiOf(static_cast<Body>(b)), rasis[b]) << b;
 }
 
-TEST(ChartPositions, NightBirthAfterMidnightBelongsToTheDayBefore) {
-  CalculationContext ctx;
-  SetBirth(ctx, 14, 3, 0);  // 03:00 on Wednesday: Tuesday's night
-  ComputeChartPositions(ctx, kRasiDivision);
-  const HoroscopeState& s = ctx.state;
-  EXPECT_EQ(s.DayOrNight, "Night");
-  EXPECT_EQ(FormatDate(s.DaySunrise, "DD/MM/YYYY"), "13/07/1965");
-  EXPECT_EQ(FormatDate(s.DayNextSunrise, "DD/MM/YYYY"), "14/07/1965");
-  // Tuesday night: Gulika at the 1st night eighth, Maandi at the 2nd night
-  // thirtieth, both in the evening, so on the date of that sunrise.
-  const OleDate gulika = Minute(s.DaySunrise, PartsFrom(s.DaySunset, s.DayNextSunrise, 8, 1));
-  const OleDate maandi = Minute(s.DaySunrise, PartsFrom(s.DaySunset, s.DayNextSunrise, 30, 2));
-  EXPECT_EQ(FormatDate(s.GulikaMoment, "DD/MM/YYYY HH:NN"), FormatDate(gulika, "DD/MM/YYYY HH:NN"));
-  EXPECT_EQ(FormatDate(s.MandiMoment, "DD/MM/YYYY HH:NN"), FormatDate(maandi, "DD/MM/YYYY HH:NN"));
-  EXPECT_EQ(FormatDate(s.GulikaMoment, "DD/MM/YYYY"), "13/07/1965");
-}
-
-TEST(ChartPositions, NightRiseAfterMidnightFallsOnTheNextDate) {
-  CalculationContext ctx;
-  SetBirth(ctx, 14, 22, 0);  // Wednesday night, before midnight
-  ComputeChartPositions(ctx, kRasiDivision);
-  const HoroscopeState& s = ctx.state;
-  EXPECT_EQ(s.DayOrNight, "Night");
-  EXPECT_EQ(FormatDate(s.DaySunrise, "DD/MM/YYYY"), "14/07/1965");
-  // Wednesday night: Gulika at the 7th night eighth and Maandi at the 26th
-  // night thirtieth, both after midnight: they take the next date, and so
-  // does DayCurrentDate.
-  const OleDate next = DateAdd(Interval::Day, 1, s.DaySunrise);
-  const OleDate gulika = Minute(next, PartsFrom(s.DaySunset, s.DayNextSunrise, 8, 7));
-  const OleDate maandi = Minute(next, PartsFrom(s.DaySunset, s.DayNextSunrise, 30, 26));
-  EXPECT_LT(gulika.Hour(), 12);
-  EXPECT_EQ(FormatDate(s.GulikaMoment, "DD/MM/YYYY HH:NN"), FormatDate(gulika, "DD/MM/YYYY HH:NN"));
-  EXPECT_EQ(FormatDate(s.MandiMoment, "DD/MM/YYYY HH:NN"), FormatDate(maandi, "DD/MM/YYYY HH:NN"));
-  EXPECT_EQ(FormatDate(s.DayCurrentDate, "DD/MM/YYYY"), "15/07/1965");
-  EXPECT_DOUBLE_EQ(s.MaandiLon, LagnaAt(maandi));
-}
-
 TEST(ChartPositions, BothLimitsOfTheDayAreNight) {
   CalculationContext probe;
   ComputeChartPositions(probe, kRasiDivision);
-  for (const OleDate limit : {probe.state.SunriseOfBirthDay, probe.state.SunsetOfBirthDay}) {
+  const OleDate rise = probe.state.SunriseOfBirthDay;
+  const struct {
+    OleDate at;
+    const char* dayOrNight;
+    const char* sunriseDate;
+  } cases[] = {
+      {rise, "Night", "13/07/1965"},  // the clock reads AM: the timings are those of the day before
+      {DateAdd(Interval::Minute, 1, rise), "Day", "14/07/1965"},
+      {probe.state.SunsetOfBirthDay, "Night", "14/07/1965"},
+  };
+  for (const auto& c : cases) {
     CalculationContext ctx;
-  SetBirth(ctx, 14, limit.Hour(), limit.Minute());
+    SetBirth(ctx, 14, c.at.Hour(), c.at.Minute());
     ComputeChartPositions(ctx, kRasiDivision);
-    EXPECT_EQ(ctx.state.DayOrNight, "Night") << FormatDate(limit, "HH:NN");
+    EXPECT_EQ(ctx.state.DayOrNight, c.dayOrNight) << FormatDate(c.at, "HH:NN");
+    EXPECT_EQ(FormatDate(ctx.state.DaySunrise, "DD/MM/YYYY"), c.sunriseDate) << FormatDate(c.at, "HH:NN");
   }
-  // At sunrise the clock reads AM: the timings are those of the day before.
-  CalculationContext atSunrise;
-  SetBirth(atSunrise, 14, probe.state.SunriseOfBirthDay.Hour(),
-                                          probe.state.SunriseOfBirthDay.Minute());
-  ComputeChartPositions(atSunrise, kRasiDivision);
-  EXPECT_EQ(FormatDate(atSunrise.state.DaySunrise, "DD/MM/YYYY"), "13/07/1965");
-  // One minute after sunrise it is day.
-  CalculationContext after;
-  SetBirth(after, 14, probe.state.SunriseOfBirthDay.Hour(),
-                                      probe.state.SunriseOfBirthDay.Minute() + 1);
-  ComputeChartPositions(after, kRasiDivision);
-  EXPECT_EQ(after.state.DayOrNight, "Day");
 }
 
 TEST(ChartPositions, NavamsaPassChangesOnlyTheRasiNumbers) {

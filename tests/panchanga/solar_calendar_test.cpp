@@ -5,6 +5,7 @@
 // more than ten minutes from a sunset).
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <fstream>
 #include <map>
 #include <sstream>
@@ -14,6 +15,7 @@
 #include "astronomy/find_sunset.h"
 #include "common/date_text.h"
 #include "panchanga/solar_calendar.h"
+#include "support/test_data.h"
 #include "support/year_table.h"
 
 namespace kelvaro {
@@ -55,42 +57,25 @@ TEST(SolarCalendar, MonthStartsOfTwoThousandOnFixedDays) {
   }
 }
 
+// The dates of tests/data/panchanga/solar_dates_fixed_days.txt, each on a
+// calendar of its own.
 TEST(SolarCalendar, DatesAroundTheYearStartOnFixedDays) {
   const MapYearTable seed = SeedYearTable();
-  // 1999 (row 13, "Pramathi"): f = 0.455 + 0.7609 = 1.2159, weekday 1 + 2 + 1
-  // = 4, Wednesday, 14 April 1999. 2000 starts 13 April 2000 06:00 (above).
-  const struct {
-    int y, mo, d, h, mi;
-    const char* text;  // SolarDateText
-    const char* monthStart;
-    int length;
-    int kaliyuga;
-    const char* why;
-  } cases[] = {
-      {2000, 3, 1, 12, 0, "18  /  Magha  /  Pramathi", "13/02/2000 06:00", 30, 5100,
-       "before the 2000 start: the name and months of 1999"},
-      {2000, 4, 13, 5, 59, "30  /  Phalguna  /  Pramathi", "14/03/2000 06:00", 30, 5100,
-       "one minute before the year start: still the last day of 1999"},
-      {2000, 4, 13, 6, 0, "1  /  Chaitra  /  Vikrama", "13/04/2000 06:00", 31, 5101, "the year start itself"},
-      {2000, 4, 14, 5, 0, "1  /  Chaitra  /  Vikrama", "13/04/2000 06:00", 31, 5101,
-       "before the next sunrise the first day runs on"},
-      {2000, 4, 14, 6, 0, "2  /  Chaitra  /  Vikrama", "13/04/2000 06:00", 31, 5101, "the second sunrise"},
-      {2000, 6, 1, 12, 0, "19  /  Vaisakha  /  Vikrama", "14/05/2000 06:00", 32, 5101, "a month of 32 days"},
-      {2001, 2, 12, 20, 0, "30  /  Pausha  /  Vikrama", "14/01/2001 06:00", 30, 5101,
-       "Magha's moment falls after this sunset, so Pausha runs to the next sunrise"},
-      {2001, 2, 13, 6, 0, "1  /  Magha  /  Vikrama", "13/02/2001 06:00", 29, 5101, "the start of Magha"},
-      {1986, 6, 1, 12, 0, "17  /  Vaisakha  /  Akshaya", "16/05/1986 06:00", 31, 5087,
-       "1986 is year number 0, so row 60"},
-  };
-  for (const auto& c : cases) {
+  const auto rows = kelvaro::testing::TestDataTable("panchanga/solar_dates_fixed_days.txt");
+  ASSERT_EQ(rows.size(), 9u);
+  for (const auto& row : rows) {
+    ASSERT_EQ(row.size(), 6u);
+    SCOPED_TRACE(row[0] + ": " + row[5]);
+    int y = 0, mo = 0, d = 0, h = 0, mi = 0;
+    ASSERT_EQ(std::sscanf(row[0].c_str(), "%d-%d-%d %d:%d", &y, &mo, &d, &h, &mi), 5);
     SolarCalendar calendar(seed);
-    const SolarDate date = calendar.SolarDateOf(OleDate::FromParts(c.y, c.mo, c.d, c.h, c.mi), kToday, FixedDay);
-    EXPECT_TRUE(date.found) << c.why;
-    EXPECT_EQ(SolarDateText(date), c.text) << c.why;
-    EXPECT_EQ(Text(date.monthStart), c.monthStart) << c.why;
-    EXPECT_EQ(date.monthLength, c.length) << c.why;
-    EXPECT_EQ(date.kaliyugaYear, c.kaliyuga) << c.why;
-    EXPECT_EQ(date.kaliDays, 1835322) << c.why;  // 45292 days from 30/12/1899 to 01/01/2024, plus 1790030
+    const SolarDate date = calendar.SolarDateOf(OleDate::FromParts(y, mo, d, h, mi), kToday, FixedDay);
+    EXPECT_TRUE(date.found);
+    EXPECT_EQ(SolarDateText(date), row[1]);
+    EXPECT_EQ(Text(date.monthStart), row[2]);
+    EXPECT_EQ(date.monthLength, std::stoi(row[3]));
+    EXPECT_EQ(date.kaliyugaYear, std::stoi(row[4]));
+    EXPECT_EQ(date.kaliDays, 1835322);  // 45292 days from 30/12/1899 to 01/01/2024, plus 1790030
   }
 }
 

@@ -151,9 +151,7 @@ TEST(ChartCells, EachSelectorClearsExactlyItsArray) {
 TEST(ChartCells, SampleRasiChartInEachStyle) {
   ChartCells cells;
   FillRasiChart(SampleChart("South", false), cells);
-  EXPECT_TRUE(cells.rasi.southVisible);
-  EXPECT_FALSE(cells.rasi.eastVisible);
-  EXPECT_FALSE(cells.rasi.northVisible);
+  EXPECT_EQ(cells.rasi.VisibleFrame(), ChartFrame::South);  // that one alone
   // Degrees folded into the sign, worked from the longitudes: Lagna 25.2472
   // is 25 deg 14 min 50.0 s, Sun 28.3176 is 28 19 3.3, and so on.
   ExpectCells(cells.rasi.south,
@@ -162,17 +160,13 @@ TEST(ChartCells, SampleRasiChartInEachStyle) {
               "South");
 
   FillRasiChart(SampleChart("East", false), cells);
-  EXPECT_TRUE(cells.rasi.eastVisible);
-  EXPECT_FALSE(cells.rasi.southVisible);
-  EXPECT_FALSE(cells.rasi.northVisible);
+  EXPECT_EQ(cells.rasi.VisibleFrame(), ChartFrame::East);
   ExpectCells(cells.rasi.east,
               {"", "Jup    Rah", "Sun  ", "Mer    Ven", "", "Mar    Gul  Maa", "Asc  ", "Ket  ", "", "Moo  ", "Sat  ", ""},
               "East");
 
   FillRasiChart(SampleChart("North", false), cells);
-  EXPECT_TRUE(cells.rasi.northVisible);
-  EXPECT_FALSE(cells.rasi.southVisible);
-  EXPECT_FALSE(cells.rasi.eastVisible);
+  EXPECT_EQ(cells.rasi.VisibleFrame(), ChartFrame::North);
   // Lagna in Libra (7): Sun in Gemini is the 9th house, Moon in Capricorn the
   // 4th, Mars, Gulika and Maandi in Virgo the 12th.
   ExpectCells(cells.rasi.north,

@@ -3,8 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <sstream>
 #include <string>
 #include <vector>
+
+#include "support/test_data.h"
 
 namespace kelvaro {
 namespace {
@@ -71,37 +74,18 @@ TEST(ChartGeometry, CellsTileTheSquare) {
   }
 }
 
-// The conventional places: a point well inside the cell a reader expects.
+// The conventional places, from tests/data/presentation/conventional_places.txt.
 TEST(ChartGeometry, SignsAndHousesStandInTheirConventionalPlaces) {
-  struct Case {
-    ChartFrame style;
-    int cell;  // sign (South, East) or house (North), 1..12
-    ChartPoint inside;
-  } cases[] = {
-      {ChartFrame::South, 12, {0.1, 0.1}},    // Pisces top left
-      {ChartFrame::South, 1, {0.4, 0.1}},     // Aries beside it
-      {ChartFrame::South, 3, {0.9, 0.1}},     // Gemini top right
-      {ChartFrame::South, 6, {0.9, 0.9}},     // Virgo bottom right
-      {ChartFrame::South, 9, {0.1, 0.9}},     // Sagittarius bottom left
-      {ChartFrame::South, 11, {0.1, 0.4}},    // Aquarius left, upper
-      {ChartFrame::East, 1, {0.5, 0.15}},     // Aries top middle
-      {ChartFrame::East, 2, {0.25, 0.05}},    // Taurus on the top edge, left
-      {ChartFrame::East, 3, {0.05, 0.25}},    // Gemini on the left edge, top
-      {ChartFrame::East, 5, {0.05, 0.75}},    // Leo on the left edge, bottom
-      {ChartFrame::East, 7, {0.5, 0.85}},     // Libra bottom middle
-      {ChartFrame::East, 9, {0.95, 0.75}},    // Sagittarius on the right edge, bottom
-      {ChartFrame::East, 12, {0.75, 0.05}},   // Pisces on the top edge, right
-      {ChartFrame::North, 1, {0.5, 0.25}},    // house 1 top middle diamond
-      {ChartFrame::North, 2, {0.25, 0.05}},   // top-left, on the top edge
-      {ChartFrame::North, 3, {0.05, 0.25}},   // top-left, on the left edge
-      {ChartFrame::North, 4, {0.25, 0.5}},    // left diamond
-      {ChartFrame::North, 7, {0.5, 0.75}},    // bottom diamond
-      {ChartFrame::North, 10, {0.75, 0.5}},   // right diamond
-      {ChartFrame::North, 12, {0.75, 0.05}},  // top-right, on the top edge
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(std::string(FrameName(c.style)) + " cell " + std::to_string(c.cell));
-    EXPECT_TRUE(ConvexPolygonContains(ChartCellShapes(c.style)[static_cast<size_t>(c.cell - 1)].outline, c.inside));
+  const auto rows = testing::TestDataTable("presentation/conventional_places.txt");
+  ASSERT_EQ(rows.size(), 20u);
+  for (const auto& row : rows) {
+    ASSERT_EQ(row.size(), 4u);
+    SCOPED_TRACE(row[0] + " cell " + row[1] + ": " + row[3]);
+    const ChartFrame style = row[0] == "South" ? ChartFrame::South : row[0] == "East" ? ChartFrame::East : ChartFrame::North;
+    ASSERT_EQ(FrameName(style), "Frame_" + row[0] + "Bride");  // no unknown frame read as North
+    ChartPoint inside{};
+    std::istringstream(row[2]) >> inside.x >> inside.y;
+    EXPECT_TRUE(ConvexPolygonContains(ChartCellShapes(style)[static_cast<size_t>(std::stoi(row[1]) - 1)].outline, inside));
   }
   EXPECT_TRUE(ChartTitleBox(ChartFrame::North).Empty());
 }

@@ -69,22 +69,19 @@ const TextChartCells kNorthRasiCells = {"Asc", "Ket", "", "Moo", "Sat", "", "", 
                                         "Mar Gul Maa"};
 // The East Rasi label keeps its bodies on one line: three characters remain.
 const TextChartCells kEastRasiCells = {"", "Jup", "Sun", "Mer", "", "Mar", "Asc", "Ket", "", "Moo", "Sat", ""};
-// Full cells: all twelve bodies in every cell, each cell starting one body
-// further on, so that a cut taken from the wrong cell or place shows.
-const TextChartCells kFullCells = {
-    "Asc Sun Moo Mar Mer Jup Ven Sat Rah Ket Gul Maa",
-    "Sun Moo Mar Mer Jup Ven Sat Rah Ket Gul Maa Asc",
-    "Moo Mar Mer Jup Ven Sat Rah Ket Gul Maa Asc Sun",
-    "Mar Mer Jup Ven Sat Rah Ket Gul Maa Asc Sun Moo",
-    "Mer Jup Ven Sat Rah Ket Gul Maa Asc Sun Moo Mar",
-    "Jup Ven Sat Rah Ket Gul Maa Asc Sun Moo Mar Mer",
-    "Ven Sat Rah Ket Gul Maa Asc Sun Moo Mar Mer Jup",
-    "Sat Rah Ket Gul Maa Asc Sun Moo Mar Mer Jup Ven",
-    "Rah Ket Gul Maa Asc Sun Moo Mar Mer Jup Ven Sat",
-    "Ket Gul Maa Asc Sun Moo Mar Mer Jup Ven Sat Rah",
-    "Gul Maa Asc Sun Moo Mar Mer Jup Ven Sat Rah Ket",
-    "Maa Asc Sun Moo Mar Mer Jup Ven Sat Rah Ket Gul",
-};
+// Full cells: all twelve bodies in every cell, cell k starting k bodies
+// further on ("Sun Moo ... Maa Asc" in cell 2), so that a cut taken from the
+// wrong cell or place shows.
+TextChartCells FullCells() {
+  const std::string bodies = "Asc Sun Moo Mar Mer Jup Ven Sat Rah Ket Gul Maa ";
+  TextChartCells cells;
+  for (size_t k = 0; k < 12; ++k) {
+    const std::string turned = bodies.substr(4 * k) + bodies.substr(0, 4 * k);
+    cells[k] = turned.substr(0, turned.size() - 1);
+  }
+  return cells;
+}
+const TextChartCells kFullCells = FullCells();
 
 
 // ---- Reducers ---------------------------------------------------------------
@@ -165,6 +162,8 @@ TEST(TextCharts, GoldenDrawings) {
 
 // ---- Widths and the frame -----------------------------------------------------
 
+// Lines() also holds every line to its CR LF and its margin, so a drawing
+// that does not end with CR LF, or holds an empty line, fails here too.
 TEST(TextCharts, EveryLineAsWideAsItsTable) {
   for (const TextChartCells& cells : {TextChartCells{}, kSouthRasiCells, kFullCells}) {
     const std::vector<std::string> south = Lines(SouthTextChart(cells, "Navamsa"), kSouthTextChartMargin);
@@ -202,15 +201,6 @@ TEST(TextCharts, FullCellsKeepTheFrame) {
   for (auto& cell : longer) cell = std::string(80, 'x');
   EXPECT_EQ(StarColumns(Lines(EastTextChart(longer, "Rasi"), kEastTextChartMargin)),
             StarColumns(Lines(EastTextChart(empty, "Rasi"), kEastTextChartMargin)));
-}
-
-TEST(TextCharts, DrawingsEndWithCrLfAndNothingElse) {
-  for (const std::string& drawing : {SouthTextChart(kFullCells, "Rasi"), NorthTextChart(kFullCells, "Rasi", 1),
-                                     EastTextChart(kFullCells, "Rasi")}) {
-    ASSERT_GE(drawing.size(), 2u);
-    EXPECT_EQ(drawing.substr(drawing.size() - 2), "\r\n");
-    EXPECT_EQ(drawing.find("\r\n\r\n"), std::string::npos);
-  }
 }
 
 // ---- The South title ---------------------------------------------------------
@@ -311,7 +301,7 @@ TEST(NorthTextChart, CornerNumbersAreTheWindowsHouseSigns) {
 
 // ---- The report's cells ------------------------------------------------------
 
-TEST(ReportCells, SampleRasiInEachStyle) {
+TEST(ReportCells, SampleRasiInEachStyleAndNavamsa) {
   ChartCells cells;
   FillRasiChart(SampleChart("South", false), cells);
   EXPECT_EQ(ReportCells(cells.rasi, "SOUTH"), kSouthRasiCells);
@@ -323,14 +313,8 @@ TEST(ReportCells, SampleRasiInEachStyle) {
   EXPECT_EQ(ReportCells(cells.rasi, "East"), kEastRasiCells);
   EXPECT_EQ(ReportCells(cells.rasi, "Western"), TextChartCells{});
   EXPECT_EQ(ReportCells(cells.rasi, ""), TextChartCells{});
-}
-
-TEST(ReportCells, SampleNavamsaSouth) {
-  ChartCells cells;
   FillNavamsaChart(SampleChart("South", true), cells);
   EXPECT_EQ(ReportCells(cells.navamsa, "south"), kSouthNavamsaCells);
-  ExpectDrawing(TextChart("South", ReportCells(cells.navamsa, "SOUTH"), "Navamsa", 0), kSouthTextChartMargin,
-                "south_navamsa");
 }
 
 TEST(ReportCells, BhavaCellsByBlanks) {

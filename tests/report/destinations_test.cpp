@@ -47,25 +47,14 @@ class ReportFolder : public ::testing::Test {
 
 const std::string kReport = "Page one\r\n<b>&</b>\r\n\fPage two\r\n";
 
-TEST(ReportDestinations, DialogFiltersAsTheDesktopShowsThem) {
-  EXPECT_STREQ(kTextFileDestination.filter, "Text Files | *.Txt");
-  EXPECT_STREQ(kHtmlFileDestination.filter, "HTML Files | *.HTML");
-  EXPECT_STREQ(kTextFileDestination.caption, "Generate Horoscope as a Text file");
-  EXPECT_STREQ(kHtmlFileDestination.caption, "Generate Horoscope as a HTML file");
-}
-
-TEST_F(ReportFolder, TextFileIsTheTextAsOnePrint) {
-  const fs::path file = folder_ / "chart.Txt";
-  WriteTextReport(file, kReport);
-  EXPECT_EQ(Read(file), "Page one\r\n<b>&</b>\r\n\fPage two\r\n\r\n");
-  EXPECT_EQ(Entries(), 1u);
-}
-
-TEST_F(ReportFolder, HtmlFileWrapsTheUnescapedTextInPre) {
-  const fs::path file = folder_ / "chart.HTML";
-  WriteHtmlReport(file, kReport);
-  EXPECT_EQ(Read(file), "<pre>\r\nPage one\r\n<b>&</b>\r\n\fPage two\r\n\r\n</pre>\r\n");
-  EXPECT_EQ(Entries(), 1u);
+// The text file is the text as one print adds its line end; the HTML file
+// wraps that, unescaped, in <pre>.
+TEST_F(ReportFolder, TextAndHtmlFiles) {
+  WriteTextReport(folder_ / "chart.Txt", kReport);
+  EXPECT_EQ(Read(folder_ / "chart.Txt"), "Page one\r\n<b>&</b>\r\n\fPage two\r\n\r\n");
+  WriteHtmlReport(folder_ / "chart.HTML", kReport);
+  EXPECT_EQ(Read(folder_ / "chart.HTML"), "<pre>\r\nPage one\r\n<b>&</b>\r\n\fPage two\r\n\r\n</pre>\r\n");
+  EXPECT_EQ(Entries(), 2u);
 }
 
 TEST_F(ReportFolder, WritingAgainReplacesTheEarlierFile) {
@@ -168,23 +157,18 @@ std::string Pages(int count) {
   return text;
 }
 
-TEST(ReportPrintPieces, SplitsAtEveryFormFeed) {
+// Split at every form feed; without the antra pages only pieces 0 to 5 are
+// kept, and a report of six pages or fewer loses nothing.
+TEST(ReportPrintPieces, SplitAndWithoutAntra) {
   const std::vector<std::string> pieces = PrintPieces(Pages(8), false);
   ASSERT_EQ(pieces.size(), 8u);
   EXPECT_EQ(pieces.front(), "p0\r\n");
   EXPECT_EQ(pieces.back(), "p7\r\n");
-}
-
-TEST(ReportPrintPieces, WithoutAntraKeepsIndicesZeroToFive) {
-  const std::vector<std::string> pieces = PrintPieces(Pages(15), true);
-  ASSERT_EQ(pieces.size(), 6u);
-  EXPECT_EQ(pieces[5], "p5\r\n");
-  // A report of six pages or fewer loses nothing.
+  EXPECT_EQ(PrintPieces(Pages(15), true), PrintPieces(Pages(6), false));
   EXPECT_EQ(PrintPieces(Pages(6), true).size(), 6u);
   EXPECT_EQ(PrintPieces(Pages(3), true).size(), 3u);
-}
 
-TEST(ReportPrintPieces, EdgePieces) {
+  // Edge pieces.
   EXPECT_EQ(PrintPieces("", false), std::vector<std::string>{""});
   EXPECT_EQ(PrintPieces("\f", false), (std::vector<std::string>{"", ""}));
   EXPECT_EQ(PrintPieces("a\fb\f", true), (std::vector<std::string>{"a", "b", ""}));

@@ -71,6 +71,8 @@ TEST_F(BhukthiSinkTest, QuotesAreStoredAsTheyAre) {
   const std::vector<kelvaro::BhukthiRow> rows = {{"Ra'hu", "Gu'ru", "01/Jan/2000", "02/Jan/2000", "3"}};
   sink_.Replace("O'Brien", rows);
   EXPECT_EQ(Stored("O'Brien"), rows);
+  // The end column spelled as the program spells it, the dates as text.
+  EXPECT_EQ(db_.Connection().execAndGet("SELECT BhukhiEnd FROM tempBhukthi").getString(), "02/Jan/2000");
 }
 
 // The third insert fails: the delete and the two inserts before it are rolled

@@ -179,13 +179,9 @@ TEST_F(ChartStore, UpdateRewritesInPlaceWithSecondZero) {
   SQLite::Statement q(db_.Connection(),
                       "SELECT ChartDay, ChartMonth, ChartYear, ChartHour, ChartMinute, ChartSecond, Gender FROM ChartSave");
   ASSERT_TRUE(q.executeStep());
-  EXPECT_EQ(q.getColumn(0).getInt(), 2);
-  EXPECT_EQ(q.getColumn(1).getInt(), 2);
-  EXPECT_EQ(q.getColumn(2).getInt(), 1970);
-  EXPECT_EQ(q.getColumn(3).getInt(), 0);
-  EXPECT_EQ(q.getColumn(4).getInt(), 5);
-  EXPECT_EQ(q.getColumn(5).getInt(), 0);
-  EXPECT_EQ(q.getColumn(6).getString(), "Female");
+  std::vector<std::string> stored;
+  for (int c = 0; c < 7; ++c) stored.push_back(q.getColumn(c).getString());
+  EXPECT_EQ(stored, (std::vector<std::string>{"2", "2", "1970", "0", "5", "0", "Female"}));
   EXPECT_EQ(ListCharts(db_, "All").items.size(), 1u);
 
   f.day = "30";

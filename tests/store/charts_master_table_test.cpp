@@ -30,15 +30,7 @@ class ChartsMasterTableTest : public ::testing::Test {
   Database db_{folder_ / "DBMirvaneBasic.db"};
 };
 
-int SeedRowCount() {
-  std::ifstream in(std::string(KELVARO_DATA_DIR) + "/chartsmaster.csv");
-  std::string line;
-  int rows = -1;  // the first line holds the column names
-  while (std::getline(in, line)) {
-    if (!line.empty()) ++rows;
-  }
-  return rows;
-}
+int SeedRowCount() { return static_cast<int>(kelvaro::testing::SeedCsvRows("chartsmaster.csv").size()); }
 
 // Each expected sign, in tests/data/charts_master/classical_rules.txt, is
 // worked by hand from the rule of the chart (sign numbers 1 Aries to 12
@@ -91,6 +83,32 @@ TEST_F(ChartsMasterTableTest, FirstRowWinsAndTheTableIsReadOnce) {
   EXPECT_EQ(table.House("testamsa", 15.0, 4), 11);
   EXPECT_EQ(table.House("HORA", 3.0, 1), 5);
   EXPECT_EQ(DatabaseChartsMasterTable(db_).House("HORA", 3.0, 1), std::nullopt);
+}
+
+// The query on bands of our own, so the rule is tested apart from the seed's
+// values: the lower limit is inclusive, the upper exclusive, the chart name
+// matched without regard to case, the rasi must agree.
+TEST(ChartsMasterQuery, BandLimits) {
+  TempFolder folder;
+  Database db(folder / "DBMirvaneBasic.db");
+  db.Connection().exec(
+      "INSERT INTO chartsmaster (chartname, RasiHouse, startDegree, EndDegree, HouseNumber) VALUES "
+      "('testamsa', 3, 0, 10, 7), ('testamsa', 3, 10, 20, 8), ('testamsa', 3, 20, 30, 9), "
+      "('testamsa', 4, 0, 30, 11)");
+  const struct {
+    const char* chart;
+    double degree;
+    int rasi;
+    std::optional<int> house;
+  } cases[] = {
+      {"testamsa", 0.0, 3, 7},   {"testamsa", 9.999999, 3, 7}, {"testamsa", 10.0, 3, 8},  // on EndDegree: next row
+      {"TESTAMSA", 19.5, 3, 8},  {"TestAmsa", 29.99, 3, 9},    {"testamsa", 30.0, 3, std::nullopt},
+      {"testamsa", 15.0, 4, 11}, {"testamsa", 15.0, 5, std::nullopt}, {"otheramsa", 15.0, 3, std::nullopt},
+  };
+  for (const auto& c : cases) {
+    SCOPED_TRACE(std::string(c.chart) + " " + std::to_string(c.degree) + " rasi " + std::to_string(c.rasi));
+    EXPECT_EQ(ChartsMasterHouse(db, c.chart, c.degree, c.rasi), c.house);
+  }
 }
 
 }  // namespace

@@ -42,13 +42,38 @@ long long Pragma(const std::filesystem::path& path, const std::string& name) {
   return raw.execAndGet("PRAGMA " + name).getInt64();
 }
 
-TEST(DatabaseOpen, CreatesCloseReopensAndKeepsEverything) {
-  TempFolder folder;
-  const auto path = folder / "DBMirvaneBasic.db";
+OpenOptions ReadOnly() {
+  OpenOptions options;
+  options.readOnly = true;
+  return options;
+}
+
+// The program's steps followed by a later version's.
+OpenOptions WithStep(Migration later) {
+  OpenOptions options;
+  options.migrations = SchemaMigrations();
+  options.migrations.push_back(std::move(later));
+  return options;
+}
+
+// A fresh folder per test and the database path in it, not yet created.
+class DatabaseOpen : public ::testing::Test {
+ protected:
+  // Creates the file, with the sample chart when asked, and gives its number.
+  std::int64_t Create(bool withChart = false) {
+    Database db(path_);
+    return withChart ? SaveChart(db, SampleChart("Velnesh")).id : 0;
+  }
+  TempFolder folder_;
+  const std::filesystem::path path_ = folder_ / "DBMirvaneBasic.db";
+};
+using DatabaseUpgrade = DatabaseOpen;
+
+TEST_F(DatabaseOpen, CreatesCloseReopensAndKeepsEverything) {
   std::int64_t chart = 0;
   std::int64_t country = 0;
   {
-    Database db(path);
+    Database db(path_);
     EXPECT_TRUE(db.Created());
     EXPECT_EQ(db.SchemaVersion(), kSchemaVersion);
     chart = SaveChart(db, SampleChart("Velnesh")).id;
@@ -56,13 +81,13 @@ TEST(DatabaseOpen, CreatesCloseReopensAndKeepsEverything) {
   }
   // Nothing but the database itself is left in the folder: no temporary
   // file, no journal, no backup.
-  EXPECT_EQ(folder.Entries(), std::vector<std::string>{"DBMirvaneBasic.db"});
-  EXPECT_EQ(Pragma(path, "application_id"), Database::kApplicationId);
-  EXPECT_EQ(Pragma(path, "user_version"), kSchemaVersion);
+  EXPECT_EQ(folder_.Entries(), std::vector<std::string>{"DBMirvaneBasic.db"});
+  EXPECT_EQ(Pragma(path_, "application_id"), Database::kApplicationId);
+  EXPECT_EQ(Pragma(path_, "user_version"), kSchemaVersion);
 
-  const std::string before = FileBytes(path);
+  const std::string before = FileBytes(path_);
   {
-    Database db(path);
+    Database db(path_);
     EXPECT_FALSE(db.Created());
     EXPECT_TRUE(db.BackupPath().empty());
     const auto opened = OpenChart(db, chart);
@@ -72,92 +97,73 @@ TEST(DatabaseOpen, CreatesCloseReopensAndKeepsEverything) {
     EXPECT_EQ(CountryById(db, country)->name, "Atlantis");
   }
   // Opening and reading changes no byte.
-  EXPECT_EQ(FileBytes(path), before);
+  EXPECT_EQ(FileBytes(path_), before);
 }
 
-TEST(DatabaseOpen, NewFileInAMissingFolderIsRefused) {
-  TempFolder folder;
-  const auto path = folder / "no-such-folder" / "DBMirvaneBasic.db";
-  ExpectStoreError(folder / "no-such-folder", "does not exist", [&] { Database db(path); });
-  EXPECT_FALSE(std::filesystem::exists(path));
-}
-
-TEST(DatabaseOpen, FailedCreationLeavesNothingBehind) {
-  TempFolder folder;
-  const auto path = folder / "DBMirvaneBasic.db";
-  OpenOptions options;
-  options.migrations = SchemaMigrations();
-  options.migrations.push_back({2, [](SQLite::Database&) { throw std::runtime_error("step two broke"); }});
-  ExpectStoreError(path, "step two broke", [&] { Database db(path, options); });
-  EXPECT_TRUE(folder.Entries().empty());
+// A missing folder, a creation whose step fails, a read-only open of a
+// missing file, a folder for a file: refused, and nothing is left behind.
+TEST_F(DatabaseOpen, RefusedCreationsLeaveNothingBehind) {
+  const auto inMissing = folder_ / "no-such-folder" / "DBMirvaneBasic.db";
+  ExpectStoreError(folder_ / "no-such-folder", "does not exist", [&] { Database db(inMissing); });
+  const OpenOptions broken = WithStep({2, [](SQLite::Database&) { throw std::runtime_error("step two broke"); }});
+  ExpectStoreError(path_, "step two broke", [&] { Database db(path_, broken); });
+  ExpectStoreError(path_, "does not exist", [&] { Database db(path_, ReadOnly()); });
+  ExpectStoreError(folder_.Path(), "is a folder", [&] { Database db(folder_.Path()); });
+  EXPECT_TRUE(folder_.Entries().empty());
 }
 
 // A creation that a killed run left half done is removed at the next open; a
 // fresh one, perhaps another copy of the program at work, is left alone.
-TEST(DatabaseOpen, TemporaryFilesOfAKilledRunAreRemoved) {
-  TempFolder folder;
-  const auto path = folder / "DBMirvaneBasic.db";
-  const auto stale = folder / "DBMirvaneBasic.db.new-123456";
-  const auto fresh = folder / "DBMirvaneBasic.db.new-789";
+TEST_F(DatabaseOpen, TemporaryFilesOfAKilledRunAreRemoved) {
+  const auto stale = folder_ / "DBMirvaneBasic.db.new-123456";
+  const auto fresh = folder_ / "DBMirvaneBasic.db.new-789";
   for (const auto& p : {stale, fresh}) std::ofstream(p) << "half a database";
   std::filesystem::last_write_time(stale, std::filesystem::file_time_type::clock::now() - std::chrono::hours(1));
-  { Database db(path); }
+  Create();
   EXPECT_FALSE(std::filesystem::exists(stale));
   EXPECT_TRUE(std::filesystem::exists(fresh));
 }
 
-TEST(DatabaseOpen, ReadOnlyOpenReadsAndRefusesEveryWrite) {
-  TempFolder folder;
-  const auto path = folder / "DBMirvaneBasic.db";
-  { Database db(path); }
-  const std::string before = FileBytes(path);
-
-  OpenOptions options;
-  options.readOnly = true;
-  Database db(path, options);
+// A read-only open reads, refuses every write, and does not upgrade.
+TEST_F(DatabaseOpen, ReadOnlyOpenReadsAndRefusesEveryWrite) {
+  Create();
+  const std::string before = FileBytes(path_);
+  Database db(path_, ReadOnly());
   EXPECT_TRUE(db.ReadOnly());
   EXPECT_FALSE(ListCountries(db).empty());
-  ExpectStoreError(path, "read-only", [&] { AddCountry(db, "Atlantis"); });
-  ExpectStoreError(path, "read-only", [&] { SaveChart(db, SampleChart("Velnesh")); });
-  EXPECT_EQ(FileBytes(path), before);
+  ExpectStoreError(path_, "read-only", [&] { AddCountry(db, "Atlantis"); });
+  ExpectStoreError(path_, "read-only", [&] { SaveChart(db, SampleChart("Velnesh")); });
+  OpenOptions upgrade = WithStep({2, [](SQLite::Database& c) { c.exec("CREATE TABLE Extra (x)"); }});
+  upgrade.readOnly = true;
+  ExpectStoreError(path_, "read-only", [&] { Database later(path_, upgrade); });
+  EXPECT_EQ(FileBytes(path_), before);
 }
 
-TEST(DatabaseOpen, ReadOnlyOpenOfAMissingFileCreatesNothing) {
-  TempFolder folder;
-  const auto path = folder / "DBMirvaneBasic.db";
-  OpenOptions options;
-  options.readOnly = true;
-  ExpectStoreError(path, "does not exist", [&] { Database db(path, options); });
-  EXPECT_TRUE(folder.Entries().empty());
-}
-
-TEST(DatabaseOpen, LockedFileIsReportedAndLeftAlone) {
-  TempFolder folder;
-  const auto path = folder / "DBMirvaneBasic.db";
-  { Database db(path); }
-  const std::string before = FileBytes(path);
+TEST_F(DatabaseOpen, LockedFileIsReportedAndLeftAlone) {
+  Create();
+  const std::string before = FileBytes(path_);
 
   // Another program holds the file in an exclusive transaction.
-  SQLite::Database other(path, SQLite::OPEN_READWRITE);
+  SQLite::Database other(path_, SQLite::OPEN_READWRITE);
   other.exec("BEGIN EXCLUSIVE");
   OpenOptions options;
   options.busyTimeoutMs = 50;
-  ExpectStoreError(path, "locked", [&] { Database db(path, options); });
+  ExpectStoreError(path_, "locked", [&] { Database db(path_, options); });
   other.exec("ROLLBACK");
 
   // Opened first, then locked by the other program: the write fails and is
   // rolled back.
-  Database db(path, options);
+  Database db(path_, options);
   other.exec("BEGIN EXCLUSIVE");
-  ExpectStoreError(path, "locked", [&] { AddCountry(db, "Atlantis"); });
+  ExpectStoreError(path_, "locked", [&] { AddCountry(db, "Atlantis"); });
   other.exec("ROLLBACK");
-  EXPECT_EQ(FileBytes(path), before);
+  EXPECT_EQ(FileBytes(path_), before);
   EXPECT_FALSE(CountryByName(db, "Atlantis").has_value());
 }
 
 // Files that are not a Kelvaro database of a known version: each is refused
 // with a message naming it, and its bytes stay as they were.
-TEST(DatabaseOpen, ForeignDamagedAndNewerFilesAreRefusedUntouched) {
+TEST_F(DatabaseOpen, ForeignDamagedAndNewerFilesAreRefusedUntouched) {
   struct Case {
     const char* label;
     std::function<void(const std::filesystem::path&)> make;
@@ -211,22 +217,11 @@ TEST(DatabaseOpen, ForeignDamagedAndNewerFilesAreRefusedUntouched) {
   }
 }
 
-TEST(DatabaseOpen, AFolderIsNotADatabase) {
-  TempFolder folder;
-  ExpectStoreError(folder.Path(), "is a folder", [&] { Database db(folder.Path()); });
-}
-
 // A later version of the program adds a step; opening an older file copies it
 // to a backup beside it and applies the step, keeping every row.
-TEST(DatabaseUpgrade, BacksUpThenMigratesInOrder) {
-  TempFolder folder;
-  const auto path = folder / "DBMirvaneBasic.db";
-  std::int64_t chart = 0;
-  {
-    Database db(path);
-    chart = SaveChart(db, SampleChart("Velnesh")).id;
-  }
-  const std::string version1 = FileBytes(path);
+TEST_F(DatabaseUpgrade, BacksUpThenMigratesInOrder) {
+  const std::int64_t chart = Create(true);
+  const std::string version1 = FileBytes(path_);
 
   std::vector<int> ran;
   OpenOptions options;
@@ -242,64 +237,42 @@ TEST(DatabaseUpgrade, BacksUpThenMigratesInOrder) {
                                   c.exec("UPDATE ChartSave SET Notes = Notes || ', step 3'");
                                 }});
   {
-    Database db(path, options);
+    Database db(path_, options);
     EXPECT_EQ(db.SchemaVersion(), 3);
     EXPECT_EQ(ran, (std::vector<int>{2, 3}));
     ASSERT_FALSE(db.BackupPath().empty());
-    EXPECT_EQ(db.BackupPath(), folder / "DBMirvaneBasic.db.v1.bak");
+    EXPECT_EQ(db.BackupPath(), folder_ / "DBMirvaneBasic.db.v1.bak");
     EXPECT_EQ(FileBytes(db.BackupPath()), version1);
     EXPECT_EQ(db.Connection().execAndGet("SELECT Notes FROM ChartSave").getString(), "from step 2, step 3");
     ASSERT_TRUE(OpenChart(db, chart).has_value());
   }
-  EXPECT_EQ(Pragma(path, "user_version"), 3);
+  EXPECT_EQ(Pragma(path_, "user_version"), 3);
 
   // Opened again at version 3: nothing runs, no new backup.
   ran.clear();
   {
-    Database db(path, options);
+    Database db(path_, options);
     EXPECT_TRUE(ran.empty());
     EXPECT_TRUE(db.BackupPath().empty());
   }
-  EXPECT_EQ(folder.Entries(), (std::vector<std::string>{"DBMirvaneBasic.db", "DBMirvaneBasic.db.v1.bak"}));
+  EXPECT_EQ(folder_.Entries(), (std::vector<std::string>{"DBMirvaneBasic.db", "DBMirvaneBasic.db.v1.bak"}));
 }
 
-TEST(DatabaseUpgrade, AFailedStepLeavesTheFileAsItWas) {
-  TempFolder folder;
-  const auto path = folder / "DBMirvaneBasic.db";
-  std::int64_t chart = 0;
-  {
-    Database db(path);
-    chart = SaveChart(db, SampleChart("Velnesh")).id;
-  }
-  const std::string before = FileBytes(path);
+TEST_F(DatabaseUpgrade, AFailedStepLeavesTheFileAsItWas) {
+  const std::int64_t chart = Create(true);
+  const std::string before = FileBytes(path_);
+  const OpenOptions options = WithStep({2, [](SQLite::Database& c) {
+                                          c.exec("ALTER TABLE ChartSave ADD COLUMN Notes TEXT");
+                                          c.exec("DELETE FROM ChartSave");
+                                          throw std::runtime_error("step two broke");
+                                        }});
+  ExpectStoreError(path_, "step two broke", [&] { Database db(path_, options); });
+  EXPECT_EQ(FileBytes(path_), before);
+  EXPECT_EQ(folder_.Entries(), std::vector<std::string>{"DBMirvaneBasic.db"});
 
-  OpenOptions options;
-  options.migrations = SchemaMigrations();
-  options.migrations.push_back({2, [](SQLite::Database& c) {
-                                  c.exec("ALTER TABLE ChartSave ADD COLUMN Notes TEXT");
-                                  c.exec("DELETE FROM ChartSave");
-                                  throw std::runtime_error("step two broke");
-                                }});
-  ExpectStoreError(path, "step two broke", [&] { Database db(path, options); });
-  EXPECT_EQ(FileBytes(path), before);
-  EXPECT_EQ(folder.Entries(), std::vector<std::string>{"DBMirvaneBasic.db"});
-
-  Database db(path);
+  Database db(path_);
   EXPECT_EQ(db.SchemaVersion(), 1);
   EXPECT_TRUE(OpenChart(db, chart).has_value());
-}
-
-TEST(DatabaseUpgrade, ReadOnlyOpenDoesNotUpgrade) {
-  TempFolder folder;
-  const auto path = folder / "DBMirvaneBasic.db";
-  { Database db(path); }
-  const std::string before = FileBytes(path);
-  OpenOptions options;
-  options.readOnly = true;
-  options.migrations = SchemaMigrations();
-  options.migrations.push_back({2, [](SQLite::Database& c) { c.exec("CREATE TABLE Extra (x)"); }});
-  ExpectStoreError(path, "read-only", [&] { Database db(path, options); });
-  EXPECT_EQ(FileBytes(path), before);
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "store/preferences.h"
 #include "store/store_error.h"
 #include "store_test_support.h"
+#include "support/test_data.h"
 
 namespace kelvaro::store {
 namespace {
@@ -16,33 +17,16 @@ PreferenceInput Custom(const std::string& zero, const std::string& progression) 
   return {"Custom", "Equal", 365.25, "South", "English", zero, progression};
 }
 
+// From tests/data/store/custom_ayanamsa_checks.txt.
 TEST(PreferenceValidation, EightTestsInOrder) {
-  const struct {
-    const char* zero;
-    const char* progression;
-    std::optional<FieldMessage> expected;
-  } cases[] = {
-      {"", "", FieldMessage{"txtZero", "Enter Zero Year"}},
-      {" ", "abc", FieldMessage{"txtZero", "Enter Zero Year"}},
-      {"abc", "", FieldMessage{"txtPogression", "Enter Progression"}},
-      {"abc", "xyz", FieldMessage{"txtZero", "Enter Year in Number"}},
-      {"2004", "xyz", FieldMessage{"txtPogression", "Enter Progression in Number "}},
-      {"2004", "-1", FieldMessage{"txtZero", "Enter Zero Year Less than current Year "}},
-      {"2003.5", "50", FieldMessage{"txtZero", "Enter Zero Year Less than current Year "}},
-      {"-1", "-1", FieldMessage{"txtZero", "Enter Positive Zero Year "}},
-      {"-0.5", "50", FieldMessage{"txtZero", "Enter Positive Zero Year "}},
-      {"285", "-0.01", FieldMessage{"txtPogression", "Enter Positive Progression "}},
-      {"285", "1000.5", FieldMessage{"txtPogression", "Enter Progression less than 1000"}},
-      {"285", "1.5e3", FieldMessage{"txtPogression", "Enter Progression less than 1000"}},
-      // The limits themselves pass, and the tests read the text as a number.
-      {"2003", "1000", std::nullopt},
-      {"0", "0", std::nullopt},
-      {"1.5e3", " 50.2 ", std::nullopt},
-      {"+285", "50", std::nullopt},
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(std::string(c.zero) + " / " + c.progression);
-    EXPECT_EQ(ValidatePreferences(Custom(c.zero, c.progression)), c.expected);
+  const auto rows = kelvaro::testing::TestDataTable("store/custom_ayanamsa_checks.txt");
+  ASSERT_EQ(rows.size(), 16u);
+  for (const auto& row : rows) {
+    ASSERT_EQ(row.size(), 4u);
+    SCOPED_TRACE(row[0] + " / " + row[1]);
+    const std::optional<FieldMessage> expected =
+        row[2].empty() ? std::nullopt : std::optional<FieldMessage>(FieldMessage{row[2], row[3]});
+    EXPECT_EQ(ValidatePreferences(Custom(row[0], row[1])), expected);
   }
 }
 

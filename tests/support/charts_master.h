@@ -2,36 +2,21 @@
 // Test helper: the divisional-chart bands of the seed file
 // data/chartsmaster.csv, answered from memory as the store answers them.
 #include <cctype>
-#include <fstream>
 #include <optional>
-#include <sstream>
 #include <string>
 #include <vector>
 
 #include "analysis/charts_master_table.h"
+#include "support/test_data.h"
 
 namespace kelvaro::testing {
 
 class SeedChartsMaster : public ChartsMasterTable {
  public:
   SeedChartsMaster() {
-    std::ifstream in(std::string(KELVARO_DATA_DIR) + "/chartsmaster.csv");
-    std::string line;
-    std::getline(in, line);
-    while (std::getline(in, line)) {
-      std::istringstream f(line);
-      Band b;
-      std::string rasi, start, end, house;
-      std::getline(f, b.chart, ',');
-      std::getline(f, rasi, ',');
-      std::getline(f, start, ',');
-      std::getline(f, end, ',');
-      std::getline(f, house, ',');
-      b.rasi = std::stoi(rasi);
-      b.start = std::stod(start);
-      b.end = std::stod(end);
-      b.house = std::stoi(house);
-      bands_.push_back(b);
+    // chartname, RasiHouse, startDegree, EndDegree, HouseNumber
+    for (const auto& r : SeedCsvRows("chartsmaster.csv")) {
+      bands_.push_back({r.at(0), std::stoi(r.at(1)), std::stod(r.at(2)), std::stod(r.at(3)), std::stoi(r.at(4))});
     }
   }
   std::optional<int> House(std::string_view chartName, double degree, int rasi) const override {

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <utility>
@@ -54,5 +55,39 @@ inline std::vector<std::vector<std::string>> TestDataTable(const std::string& na
   }
   return rows;
 }
+
+// An angle or a zone as the data files write it: "17 N 20" (degrees, side,
+// minutes) or "5.5 E" (hours and side, no minutes).
+struct SidedValue {
+  double value = 0;
+  std::string side;
+  double minutes = 0;
+};
+
+inline SidedValue ReadSided(const std::string& text) {
+  SidedValue v;
+  std::istringstream(text) >> v.value >> v.side >> v.minutes;
+  return v;
+}
+
+#ifdef KELVARO_DATA_DIR
+// The rows of a seed file in data/ (plain fields split at ',', no quoting),
+// the line of column names and blank lines left out.
+inline std::vector<std::vector<std::string>> SeedCsvRows(const std::string& name) {
+  std::ifstream in(std::string(KELVARO_DATA_DIR) + "/" + name);
+  if (!in) throw std::runtime_error("no seed file " + name);
+  std::vector<std::vector<std::string>> rows;
+  std::string line;
+  std::getline(in, line);
+  while (std::getline(in, line)) {
+    if (line.empty()) continue;
+    std::vector<std::string> fields;
+    std::istringstream split(line);
+    for (std::string field; std::getline(split, field, ',');) fields.push_back(field);
+    rows.push_back(std::move(fields));
+  }
+  return rows;
+}
+#endif
 
 }  // namespace kelvaro::testing

@@ -2,14 +2,13 @@
 // Test helpers for the calendars: a KaliyugaYearTable held in a map, the sixty
 // rows of the seed file data/kaliyuga_years.csv, and a day with its sunrise at
 // 06:00 and its sunset at 18:30.
-#include <fstream>
 #include <map>
 #include <optional>
-#include <sstream>
 #include <string>
 
 #include "panchanga/kaliyuga_year_table.h"
 #include "panchanga/sun_times.h"
+#include "support/test_data.h"
 
 namespace kelvaro::testing {
 
@@ -26,19 +25,10 @@ class MapYearTable : public KaliyugaYearTable {
 // Reads the seed file; the test target defines KELVARO_DATA_DIR.
 inline MapYearTable SeedYearTable() {
   MapYearTable t;
-  std::ifstream in(std::string(KELVARO_DATA_DIR) + "/kaliyuga_years.csv");
-  std::string line;
-  std::getline(in, line);
-  while (std::getline(in, line)) {
-    std::istringstream f(line);
-    std::string yearno, name, yearVal, dayVal, remain;
-    std::getline(f, yearno, ',');
-    std::getline(f, name, ',');
-    std::getline(f, yearVal, ',');
-    std::getline(f, dayVal, ',');
-    std::getline(f, remain, ',');
-    t.rows[std::stoi(yearno)] = {name, std::stod(yearVal), static_cast<std::int16_t>(std::stoi(dayVal)),
-                                 std::stod(remain)};
+  // Yearno, yearname, YearVal, DayVal, YearRemain
+  for (const auto& r : SeedCsvRows("kaliyuga_years.csv")) {
+    t.rows[std::stoi(r.at(0))] = {r.at(1), std::stod(r.at(2)), static_cast<std::int16_t>(std::stoi(r.at(3))),
+                                  std::stod(r.at(4))};
   }
   return t;
 }
