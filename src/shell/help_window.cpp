@@ -34,6 +34,7 @@ HelpWindow::HelpWindow(const QString& folder, QSettings* settings, QWidget* pare
   browser_->setSearchPaths({folder});
 
   auto* bar = new QToolBar(this);
+  bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   QStyle* s = style();
   QAction* back = bar->addAction(s->standardIcon(QStyle::SP_ArrowBack), tr("&Back"), browser_, &QTextBrowser::backward);
   back->setShortcut(QKeySequence::Back);

@@ -63,6 +63,7 @@ PreferencesDialog::PreferencesDialog(Services services, QWidget* parent)
   setAttribute(Qt::WA_DeleteOnClose);
   BuildControls();
   ShowStored(store::ReadPreferences(*services_.db));
+  setMinimumWidth(440);
   RememberSize(this, services_.settings, "Preferences/geometry");
   ayanamsa_->setFocus();
 }
@@ -151,7 +152,12 @@ void PreferencesDialog::ShowStored(const store::Preferences& p) {
   ShowCustomFrame();
 }
 
-void PreferencesDialog::ShowCustomFrame() { custom_->setVisible(StoredOf(ayanamsa_, store::kAyanamsaChoices) == "Custom"); }
+void PreferencesDialog::ShowCustomFrame() {
+  custom_->setVisible(StoredOf(ayanamsa_, store::kAyanamsaChoices) == "Custom");
+  // The window grows to make room for the frame rather than squeezing it.
+  layout()->activate();
+  if (height() < sizeHint().height()) resize(width(), sizeHint().height());
+}
 
 store::PreferenceInput PreferencesDialog::Input() const {
   store::PreferenceInput in;

@@ -106,8 +106,14 @@ void TimeConverterDialog::BuildControls() {
   time->addStretch(1);
   auto* form = new QFormLayout;
   form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-  form->addRow(tr("&Date"), date);
-  form->addRow(toGhati ? tr("Birth &Time") : tr("&Ghati / Vighati"), time);
+  // A row of several fields is labelled for its first, so its accelerator works.
+  auto buddyLabel = [this](const QString& text, QWidget* buddy) {
+    auto* label = new QLabel(text, this);
+    label->setBuddy(buddy);
+    return label;
+  };
+  form->addRow(buddyLabel(tr("&Date"), day_), date);
+  form->addRow(buddyLabel(toGhati ? tr("Birth &Time") : tr("&Ghati / Vighati"), hour_), time);
   form->addRow(tr("C&ountry"), country_);
   form->addRow(tr("C&ity"), city_);
   form->addRow(tr("Time &Zone"), zone_);
