@@ -73,8 +73,8 @@ MainWindow::~MainWindow() = default;
 void MainWindow::BuildMenus() {
   birthDetails_ = menuBar()->addAction(tr("&Enter Birth Details"), this, [this] { OpenBirthForm(); });
   birthDetails_->setObjectName("mnuBirthDetails");
-  // The tool windows behind these entries are not built yet: they stand in
-  // their places, disabled, so the menus already read as they will.
+  // The three masters are not built yet: their entries stand in their
+  // places, disabled, so the menu already reads as it will.
   QMenu* tools = menuBar()->addMenu(tr("&Tools"));
   tools->setObjectName("mnuTools");
   for (const char* text : {"&Country Master", "Cit&y Master", "Time &Zone Master", ""}) {
