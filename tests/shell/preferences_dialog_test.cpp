@@ -175,6 +175,12 @@ TEST_F(PreferencesTest, SaveApplyAndCloseInTheDatabaseAndTheViews) {
   d = Open();  // a stored "Not Equal" shows as "Placidius"
   EXPECT_EQ(Shown(d, "cbBhava"), "Placidius");
   EXPECT_EQ(d->findChild<QLineEdit*>("txtPogression")->text(), "50.3");
+
+  // The window comes back at the size it was left.
+  d->resize(d->width() + 120, d->height() + 40);
+  const QSize left = d->size();
+  Click(d, "CMDCANCEl");
+  EXPECT_EQ(Open()->size(), left);
 }
 
 }  // namespace
