@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Runs inside the virtual display of screenshots.sh: starts the program once
 # per chart style, chooses the Rasi view with the mouse as a user does, and
-# photographs the window; then opens the birth form with its accelerator.
+# photographs the window; then opens the birth form and the preferences with
+# their accelerators.
 set -euo pipefail
 build="$1" docs="$2"
 cli="$build/src/cli/kelvaro-cli"
@@ -31,4 +32,14 @@ xdotool windowfocus --sync "$window" key alt+e
 form=$(timeout 20 xdotool search --sync --name '^Enter Birth Details$' | head -1)
 sleep 1
 import -window "$form" "$docs/birth-form.png"
+xdotool windowfocus --sync "$form" key Escape
+sleep 0.5
+# Tools, Preferences, by their accelerators.
+xdotool windowfocus --sync "$window" key alt+t p
+prefs=$(timeout 20 xdotool search --sync --name '^Preferences$' | head -1)
+sleep 1
+# The custom ayanamsa, to show its two fields.
+xdotool windowfocus --sync "$prefs" type Cu
+sleep 0.7
+import -window "$prefs" "$docs/preferences.png"
 stop

@@ -5,19 +5,15 @@
 #include <memory>
 #include <string>
 
-#include "astronomy/find_sunrise.h"
 #include "cli/cli.h"
 #include "cli/database_option.h"
 #include "common/calculation_error.h"
 #include "common/date_text.h"
-#include "common/text_checks.h"
-#include "horoscope/birth_form.h"
-#include "panchanga/time_converters.h"
+#include "horoscope/time_conversion.h"
 #include "store/city_master.h"
 #include "store/country_master.h"
 #include "store/database.h"
 #include "store/store_error.h"
-#include "store/time_zone_master.h"
 
 namespace kelvaro::cli {
 
@@ -68,57 +64,14 @@ void RunConvert(const ConvertOptions& o, Conversion conversion, Session& session
     entry.countryChosen = country.has_value();
     const auto city = (country && !o.city.empty()) ? store::CityByName(db, country->id, o.city) : std::nullopt;
     entry.cityChosen = city.has_value();
-    if (const auto problem = ValidateConverter(entry, conversion)) {
-      session.err << "kelvaro-cli: " << problem->message << "\n";
+    const auto zone = country ? ConverterZone(db, country->id, o.zone) : std::nullopt;
+    const ConversionOutcome outcome = ConvertTime(entry, conversion, city, zone);
+    if (outcome.problem) {
+      session.err << "kelvaro-cli: " << outcome.problem->message << "\n";
       session.status = kExitBadInput;
       return;
     }
-    // The zone: the one named, or the country's first.
-    std::optional<store::ZoneRow> zone;
-    for (const auto& z : store::ZonesOf(db, country->id)) {
-      if (o.zone.empty() || z.place == o.zone) {
-        zone = z;
-        break;
-      }
-    }
-    if (!zone) {
-      session.err << "kelvaro-cli: Select Timezone\n";
-      session.status = kExitBadInput;
-      return;
-    }
-    BirthFormFields place;
-    place.latDeg = city->latDeg, place.latNS = city->latNS, place.latMin = city->latMin;
-    place.lonDeg = city->lonDeg, place.lonEW = city->lonEW, place.lonMin = city->lonMin;
-    place.timeDiff = zone->timeDifference, place.timeDiffEW = zone->direction;
-    if (const auto problem = PlaceProblem(place, kStoredColumns)) {
-      session.err << "kelvaro-cli: " << MessageValue(city->name) << ": " << *problem << "\n";
-      session.status = kExitBadInput;
-      return;
-    }
-    clsFindSunrise finder;
-    const SunriseOfDate sunriseOf = [&](OleDate date) {
-      return finder.FnFindSunrise(date, city->latNS, city->latDeg, city->latMin, city->lonEW, city->lonDeg,
-                                  city->lonMin, 0, zone->timeDifference, zone->direction);
-    };
-    if (conversion == Conversion::ToIshtaGhati) {
-      const auto moment = ConverterMoment(entry);
-      if (!moment) throw CalculationError("\"" + o.date + " " + o.time + "\" is not a moment");
-      session.out << BirthTimeToIshtaGhati(*moment, sunriseOf).Text() << "\n";
-    } else {
-      ConverterEntry dateOnly = entry;
-      dateOnly.hour = "12";
-      dateOnly.minute = "0";
-      const auto day = ConverterMoment(dateOnly);
-      if (!day) {
-        // As the other conversion says it.
-        session.err << "kelvaro-cli: Enter Correct Date\n";
-        session.status = kExitBadInput;
-        return;
-      }
-      const OleDate t = IshtaGhatiToBirthTime(day->DateOnly(), std::stod(entry.hour), std::stod(entry.minute),
-                                              sunriseOf);
-      session.out << BirthTimeText(t) << "\n";
-    }
+    session.out << outcome.text << "\n";
   } catch (const store::StoreError& e) {
     session.err << "kelvaro-cli: " << e.what() << "\n";
     session.status = kExitFailure;

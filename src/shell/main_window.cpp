@@ -12,30 +12,30 @@
 #include <QProgressBar>
 #include <QStackedWidget>
 #include <QStatusBar>
-#include <QTextBrowser>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
 #include "horoscope/calculate_horoscope.h"
 #include "horoscope/views.h"
+#include "shell/about_dialog.h"
 #include "shell/birth_form_dialog.h"
 #include "shell/chart_view.h"
 #include "shell/city_master_dialog.h"
 #include "shell/country_master_dialog.h"
 #include "shell/dasa_view.h"
 #include "shell/details_view.h"
+#include "shell/help_window.h"
 #include "shell/messages.h"
+#include "shell/personal_info_dialog.h"
+#include "shell/preferences_dialog.h"
 #include "shell/print_view.h"
 #include "shell/table_views.h"
 #include "shell/time_zone_master_dialog.h"
+#include "shell/time_converter_dialog.h"
 #include "store/personal_details.h"
 #include "store/preferences.h"
 #include "store/settings.h"
 #include "store/store_error.h"
-
-// The help guide is compiled into the shell library; a static library's
-// resources must be registered by name, outside any namespace.
-static void RegisterShellResources() { Q_INIT_RESOURCE(kelvaro); }
 
 namespace kelvaro::shell {
 
@@ -53,7 +53,6 @@ OwnerDetails OwnerOf(const store::PersonalDetails& p) {
 
 MainWindow::MainWindow(Options options, QWidget* parent)
     : QMainWindow(parent), options_(std::move(options)), settingsStore_(*options_.settings) {
-  RegisterShellResources();
   setWindowTitle(kMainCaption);
   setObjectName("MDILight");
   BuildMenus();
@@ -83,20 +82,18 @@ void MainWindow::BuildMenus() {
   tools->addAction(tr("Cit&y Master"), this, [this] { OpenCityMaster(); })->setObjectName("MDI_LAt_Lon");
   tools->addAction(tr("Time &Zone Master"), this, [this] { OpenTimeZoneMaster(); })
       ->setObjectName("MDI_ADD_TimeZone");
-  // The tool windows behind these entries are not built yet: they stand in
-  // their places, disabled, so the menus already read as they will.
-  for (const char* text : {"", "Edit Personal &Info", "&Preferences"}) {
-    if (*text == '\0') {
-      tools->addSeparator();
-      continue;
-    }
-    tools->addAction(tr(text))->setEnabled(false);
-  }
+  tools->addSeparator();
+  tools->addAction(tr("Edit Personal &Info"), this, [this] { OpenPersonalInfo(); })->setObjectName("mnudetails");
+  tools->addAction(tr("&Preferences"), this, [this] { OpenPreferences(); })->setObjectName("mnuPreferences");
   QMenu* converter = menuBar()->addMenu(tr("&Time Converter"));
   converter->setObjectName("mnuBirthTime");
-  converter->addAction(tr("&BirthTime To  IshtaGhatika"))->setEnabled(false);
+  converter->addAction(tr("&BirthTime To  IshtaGhatika"), this, [this] {
+    OpenConverter(Conversion::ToIshtaGhati);
+  })->setObjectName("Mnu_IshtaGhatika");
   converter->addSeparator();
-  converter->addAction(tr("Ishta&Ghatika To BirthTime"))->setEnabled(false);
+  converter->addAction(tr("Ishta&Ghatika To BirthTime"), this, [this] {
+    OpenConverter(Conversion::ToBirthTime);
+  })->setObjectName("mnu_BirthTime");
   QMenu* help = menuBar()->addMenu(tr("Help"));
   help->setObjectName("mdiHelpmnu");
   help->addAction(tr("&Help"), QKeySequence(QKeySequence::HelpContents), this, &MainWindow::ShowHelp);
@@ -304,10 +301,7 @@ BirthFormDialog* MainWindow::OpenBirthForm() {
 
 template <class Master>
 Master* MainWindow::OpenMaster() {
-  if (!db_) {
-    ShowError(this, tr("The database \"%1\" is not open, so the masters cannot be shown.").arg(options_.databasePath));
-    return nullptr;
-  }
+  if (!DatabaseOpen(tr("the masters cannot be shown"))) return nullptr;
   auto* master = new Master(*db_, options_.settings, this);
   master->open();
   return master;
@@ -317,31 +311,93 @@ CountryMasterDialog* MainWindow::OpenCountryMaster() { return OpenMaster<Country
 CityMasterDialog* MainWindow::OpenCityMaster() { return OpenMaster<CityMasterDialog>(); }
 TimeZoneMasterDialog* MainWindow::OpenTimeZoneMaster() { return OpenMaster<TimeZoneMasterDialog>(); }
 
-void MainWindow::ShowHelp() {
-  auto* help = findChild<QDialog*>("HelpWindow");
-  if (!help) {
-    help = new QDialog(this);
-    help->setObjectName("HelpWindow");
-    help->setWindowTitle(tr("Kelvaro Help"));
-    auto* browser = new QTextBrowser(help);
-    browser->setOpenExternalLinks(false);
-    browser->setSource(QUrl("qrc:/help/guide.html"));
-    auto* layout = new QVBoxLayout(help);
-    layout->addWidget(browser);
-    help->resize(640, 560);
-  }
-  help->show();
-  help->raise();
+bool MainWindow::ChangePreferences(const store::Preferences& values, bool withBhava) {
+  const HoroscopeState before = ctx_->state;
+  store::Preferences next = values;
+  // "&Apply" leaves the house system as it is in force.
+  if (!withBhava) next.bhava = ctx_->state.BhavaSystem;
+  ApplyPreferences(next, ctx_->state);
+  if (Recalculate()) return true;
+  ctx_->state = before;
+  return false;
 }
 
-void MainWindow::ShowAbout() {
-  QMessageBox::about(
-      this, tr("About Kelvaro"),
-      tr("<h3>Kelvaro Basic</h3><p>Version 2.4: a Vedic astrology program with its own calculation of the "
-         "planets.</p><p>Database: %1</p><p>Built with Qt %2 (LGPL 3), SQLite (public domain), SQLiteCpp (MIT), "
-         "fmt (MIT), CLI11 (BSD 3-clause) and nlohmann-json (MIT). Fonts: DejaVu (free licence) and "
-         "Liberation (SIL Open Font License).</p>")
-          .arg(options_.databasePath.toHtmlEscaped(), QT_VERSION_STR));
+PreferencesDialog* MainWindow::OpenPreferences() {
+  if (!DatabaseOpen(tr("the preferences cannot be changed"))) return nullptr;
+  PreferencesDialog::Services services;
+  services.db = db_.get();
+  services.settings = options_.settings;
+  services.apply = [this](const store::Preferences& values, bool withBhava) { ChangePreferences(values, withBhava); };
+  try {
+    auto* dialog = new PreferencesDialog(std::move(services), this);
+    dialog->open();
+    return dialog;
+  } catch (const std::exception& e) {
+    ShowError(this, Qs(e.what()));
+    return nullptr;
+  }
+}
+
+PersonalInfoDialog* MainWindow::OpenPersonalInfo() {
+  if (!DatabaseOpen(tr("the personal details cannot be edited"))) return nullptr;
+  PersonalInfoDialog::Services services;
+  services.db = db_.get();
+  services.settings = options_.settings;
+  services.changed = [this](const store::PersonalDetails& letterhead) {
+    owner_ = OwnerOf(letterhead);
+    RefreshViews();
+  };
+  try {
+    auto* dialog = new PersonalInfoDialog(std::move(services), this);
+    dialog->open();
+    return dialog;
+  } catch (const std::exception& e) {
+    ShowError(this, Qs(e.what()));
+    return nullptr;
+  }
+}
+
+TimeConverterDialog* MainWindow::OpenConverter(Conversion conversion) {
+  if (!DatabaseOpen(tr("the converters have no places"))) return nullptr;
+  TimeConverterDialog::Services services;
+  services.db = db_.get();
+  services.settings = options_.settings;
+  services.country = ctx_->state.BirthCountry;
+  services.city = ctx_->state.BirthCity;
+  try {
+    auto* dialog = new TimeConverterDialog(conversion, std::move(services), this);
+    dialog->open();
+    return dialog;
+  } catch (const std::exception& e) {
+    ShowError(this, Qs(e.what()));
+    return nullptr;
+  }
+}
+
+HelpWindow* MainWindow::ShowHelp() {
+  if (auto* help = findChild<HelpWindow*>()) {
+    help->show();
+    help->raise();
+    help->activateWindow();
+    return help;
+  }
+  const QStringList folders = options_.guideFolders.isEmpty() ? GuideFolders() : options_.guideFolders;
+  const QString folder = FindGuide(folders);
+  if (folder.isEmpty()) {
+    ShowError(this, tr("The user guide is missing: no %1 was found in %2.").arg(kGuideIndex, folders.join(tr(" or "))));
+    return nullptr;
+  }
+  auto* help = new HelpWindow(folder, options_.settings, this);
+  help->show();
+  return help;
+}
+
+void MainWindow::ShowAbout() { (new AboutDialog(options_.databasePath, this))->open(); }
+
+bool MainWindow::DatabaseOpen(const QString& consequence) {
+  if (db_) return true;
+  ShowError(this, tr("The database \"%1\" is not open, so %2.").arg(options_.databasePath, consequence));
+  return false;
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {

@@ -5,17 +5,20 @@
 // connection and the one calculation context of the run.
 #include <QMainWindow>
 #include <QSettings>
+#include <QStringList>
 #include <array>
 #include <memory>
 
 #include "horoscope/birth_form.h"
 #include "horoscope/calculation_context.h"
+#include "panchanga/time_converters.h"
 #include "report/report_pages.h"
 #include "shell/qt_settings_store.h"
 #include "store/bhukthi_sink.h"
 #include "store/charts_master_table.h"
 #include "store/database.h"
 #include "store/kaliyuga_year_table.h"
+#include "store/preferences.h"
 
 class QLabel;
 class QProgressBar;
@@ -31,6 +34,10 @@ class BirthFormDialog;
 class CityMasterDialog;
 class CountryMasterDialog;
 class TimeZoneMasterDialog;
+class HelpWindow;
+class PersonalInfoDialog;
+class PreferencesDialog;
+class TimeConverterDialog;
 class ViewPage;
 
 inline constexpr const char* kMainCaption = "Kelvaro - Kelvaro Basic (Version 2.4)";
@@ -43,6 +50,7 @@ class MainWindow : public QMainWindow {
     QString databasePath;               // the database file
     QSettings* settings = nullptr;      // "Horo" and the windows' sizes; must outlive the window
     std::function<OleDate()> today;     // the day of the Kali day count; the clock when empty
+    QStringList guideFolders;           // where the user guide may stand; beside the program when empty
   };
 
   explicit MainWindow(Options options, QWidget* parent = nullptr);
@@ -70,6 +78,15 @@ class MainWindow : public QMainWindow {
   CountryMasterDialog* OpenCountryMaster();
   CityMasterDialog* OpenCityMaster();
   TimeZoneMasterDialog* OpenTimeZoneMaster();
+  PreferencesDialog* OpenPreferences();
+  PersonalInfoDialog* OpenPersonalInfo();
+  TimeConverterDialog* OpenConverter(Conversion conversion);
+  HelpWindow* ShowHelp();
+
+  // "&Save" and "&Apply" of the preferences: the values into the state in
+  // force (the house system only with withBhava) and the whole calculation.
+  // A failed calculation puts the state back as it was.
+  bool ChangePreferences(const store::Preferences& values, bool withBhava);
 
   QTreeWidget* Tree() const { return tree_; }
   QDockWidget* TreeDock() const { return dock_; }
@@ -90,10 +107,11 @@ class MainWindow : public QMainWindow {
   bool OpenDatabase();
   bool Run();
   void RefreshViews();
-  void ShowHelp();
   void ShowAbout();
   template <class Master>
   Master* OpenMaster();
+  // False, after saying what cannot be done, when no database is open.
+  bool DatabaseOpen(const QString& consequence);
 
   Options options_;
   QtSettingsStore settingsStore_;

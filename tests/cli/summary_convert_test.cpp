@@ -114,6 +114,8 @@ TEST_F(SummaryAndConvert, ConvertBothWays) {
         "--database", Db()},
        "Select City"},
       {{"convert", "to-ghati", "--date", "14/07/1965", "--time", "14:15", "--database", Db()}, "Select Country"},
+      {with({"convert", "to-time", "--date", "14/07/1965", "--ghati", "21", "--vighati", "2", "--zone", "Asia/Dhaka"}),
+       "Select Timezone"},  // a zone of another country
   };
   for (const auto& c : cases) {
     const Outcome r = RunTool(c.args);

@@ -4,6 +4,7 @@
 // opens, read and answered as a user would.
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QApplication>
 #include <QAbstractButton>
 #include <QComboBox>
@@ -11,6 +12,7 @@
 #include <QMessageBox>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QTimer>
 #include <functional>
 #include <memory>
@@ -50,6 +52,23 @@ inline std::vector<SeenBox> AnswerBoxes(const std::function<void()>& action,
   QApplication::processEvents();
   timer.stop();
   return seen;
+}
+
+// The window of type W that the menu entry named `entry` opens from `main`.
+// A window closed before may still await its deletion: the visible one is meant.
+template <class W>
+W* OpenFromMenu(QWidget& main, const char* entry) {
+  main.findChild<QAction*>(entry)->trigger();
+  for (W* w : main.findChildren<W*>()) {
+    if (w->isVisible()) return w;
+  }
+  ADD_FAILURE() << "nothing opened from " << entry;
+  return nullptr;
+}
+
+// Clicks the button of `window` named `button`; the boxes it opens are answered.
+inline std::vector<SeenBox> Click(QWidget* window, const char* button) {
+  return AnswerBoxes([&] { QTest::mouseClick(window->findChild<QPushButton*>(button), Qt::LeftButton); });
 }
 
 class ShellTest : public ::testing::Test {
