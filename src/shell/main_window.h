@@ -28,6 +28,7 @@ class QDockWidget;
 namespace kelvaro::shell {
 
 class BirthFormDialog;
+class PrintView;
 class ViewPage;
 
 inline constexpr const char* kMainCaption = "Kelvaro - Kelvaro Basic (Version 2.4)";
@@ -77,6 +78,8 @@ class MainWindow : public QMainWindow {
 
  private:
   void BuildMenus();
+  void BuildFileMenu();
+  PrintView& PrintPage() const;
   void BuildTree();
   void BuildViews();
   void ShowProgress(int done, int total);
