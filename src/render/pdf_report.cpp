@@ -98,11 +98,11 @@ void KeyBand(PdfDocument& doc, const TitlePageValues& t) {
 // Two columns of labelled values: the birth data and the almanac.
 void Particulars(PdfDocument& doc, const TitlePageValues& t) {
   const auto fields = TitlePageFields(t);
-  const QFont label = doc.Font(kSansFamily, 8.5);
-  const QFont value = doc.Font(kSansFamily, 8.5, true);
-  const QFont heading = doc.Font(kSerifFamily, 11, true);
+  const QFont label = doc.Font(kSansFamily, 9);
+  const QFont value = doc.Font(kSansFamily, 9, true);
+  const QFont heading = doc.Font(kSerifFamily, 11.5, true);
   const QFontMetricsF m(label);
-  const double row = m.height() * 1.5;
+  const double row = m.height() * 1.75;
   struct Group {
     QString title;
     std::size_t first, last;  // indices into the fields
@@ -119,12 +119,14 @@ void Particulars(PdfDocument& doc, const TitlePageValues& t) {
   const double height = std::max(columnHeight(columns[0]), columnHeight(columns[1]));
   doc.Figure(height, [&](QPainter& p, const QRectF& area) {
     const double gap = doc.Pt(kChartGapPoints);
-    const double width = (area.width() - gap) / 2;
+    // The almanac's values (the lunar dates) are the longer ones.
+    const std::array<double, 2> widths = {(area.width() - gap) * 0.45, (area.width() - gap) * 0.55};
     double labelWidth = 0;
     for (const auto& f : fields) labelWidth = std::max(labelWidth, m.horizontalAdvance(f.first));
     labelWidth += doc.Pt(8);
     for (std::size_t c = 0; c < columns.size(); ++c) {
-      const double left = area.left() + static_cast<double>(c) * (width + gap);
+      const double left = c == 0 ? area.left() : area.left() + widths[0] + gap;
+      const double width = widths[c];
       double y = area.top();
       for (const Group& g : columns[c]) {
         p.setFont(heading);
