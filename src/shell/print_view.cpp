@@ -22,6 +22,7 @@ namespace {
 
 constexpr const char* kPaperKey = "Print/paper";
 constexpr const char* kFolderKey = "Print/folder";
+constexpr double kPrintMarginMm = 15;
 
 // The report is laid out for Courier New; fontconfig gives Liberation Mono,
 // its metric twin, where Courier New itself is missing.
@@ -199,6 +200,8 @@ void PrintView::PrintWithPreview() {
   const std::vector<std::string> pieces = PrintPieces(Compose(), withoutAntra_->isChecked());
   QPrinter printer(QPrinter::HighResolution);
   printer.setPageSize(QPageSize(PaperSize() == render::PaperSize::Letter ? QPageSize::Letter : QPageSize::A4));
+  printer.setPageMargins(QMarginsF(kPrintMarginMm, kPrintMarginMm, kPrintMarginMm, kPrintMarginMm),
+                         QPageLayout::Millimeter);
   printer.setDocName(tr("Horoscope of %1").arg(Qs(ctx_->summary.txtGName).trimmed()));
   QPrintPreviewDialog preview(&printer, this);
   preview.setWindowTitle(tr("Print Preview"));
