@@ -327,13 +327,15 @@ void PeriodColumns(PdfDocument& doc, const QString& title, const QString& period
                             m.horizontalAdvance(QString::fromStdString(e.end))});
     }
   }
-  const double pad = doc.Pt(6);
+  const double pad = doc.Pt(9);
   const double natural = std::max(headingWidth, lordWidth + 2 * dateWidth + 2 * pad) + doc.Pt(4);
   const double gap = doc.Pt(14);
   const int columns = std::clamp(static_cast<int>((doc.Width() + gap) / (natural + gap)), 1, 3);
   const double width = (doc.Width() - gap * (columns - 1)) / columns;
   const double row = m.height() * 1.35;
-  auto blockHeight = [&](const PeriodBlock& b) { return row * static_cast<double>(b.lines.size() + 2) + row * 0.6; };
+  const double blockGap = row * 0.8;
+  // A block: its heading, its lines, and the gap below it.
+  auto blockHeight = [&](const PeriodBlock& b) { return row * static_cast<double>(b.lines.size() + 1) + blockGap; };
 
   doc.Heading(title, blockHeight(blocks.front()) + row);
   std::size_t next = 0;
@@ -378,7 +380,7 @@ void PeriodColumns(PdfDocument& doc, const QString& title, const QString& period
             p.drawText(QRectF(endX, y, dateWidth, row), Qt::AlignLeft | Qt::AlignVCenter, QString::fromStdString(e.end));
             y += row;
           }
-          y += row * 1.6;
+          y += blockGap;
         }
       }
     });
