@@ -28,6 +28,10 @@ QFont MakeFont(const char* family, double pixels, bool bold, bool italic) {
   // Outlines as drawn, without hinting, so that the widths measured are those
   // the PDF shows at any zoom.
   font.setHintingPreference(QFont::PreferNoHinting);
+  // A spacing too small to see keeps the shaper from joining "ffi" into one
+  // glyph, so that a reader can search and copy every word (an e-mail
+  // address, a name) as it was written.
+  font.setLetterSpacing(QFont::AbsoluteSpacing, 0.05);
   return font;
 }
 

@@ -171,8 +171,12 @@ void FirstPage(PdfDocument& doc, const ReportInput& in) {
   doc.Text("PADAVI POORVA PUNYANAM  LIKHYATE  JANMA PATRIKA", doc.Font(kSerifFamily, 8.5, false, true),
            Qt::AlignHCenter, kMuted);
   doc.Space(22);
-  doc.Text("Horoscope of", doc.Font(kSerifFamily, 11, false, true), Qt::AlignHCenter, kMuted);
-  doc.Text(Value(in.title.name), doc.Font(kSerifFamily, 24, true), Qt::AlignHCenter);
+  if (Value(in.title.name).isEmpty()) {
+    doc.Text("Horoscope", doc.Font(kSerifFamily, 24, true), Qt::AlignHCenter);
+  } else {
+    doc.Text("Horoscope of", doc.Font(kSerifFamily, 11, false, true), Qt::AlignHCenter, kMuted);
+    doc.Text(Value(in.title.name), doc.Font(kSerifFamily, 24, true), Qt::AlignHCenter);
+  }
   QStringList born;
   for (const std::string* part : {&in.title.sex, &in.title.dateOfBirth, &in.title.timeOfBirth}) {
     if (!Value(*part).isEmpty()) born << Value(*part);

@@ -1,5 +1,6 @@
 #include "shell/print_view.h"
 
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGroupBox>
@@ -153,7 +154,7 @@ render::PaperSize PrintView::PaperSize() const {
 }
 
 QString PrintView::ChooseFile(const QString& caption, const QString& filter, const QString& suffix) {
-  const QString folder = settings_ ? settings_->value(kFolderKey).toString() : QString();
+  const QString folder = settings_ ? settings_->value(kFolderKey, QDir::homePath()).toString() : QDir::homePath();
   const QString name = ctx_ ? Qs(ctx_->summary.txtGName).trimmed() : QString();
   QFileDialog dialog(this, caption, folder, filter);
   dialog.setAcceptMode(QFileDialog::AcceptSave);

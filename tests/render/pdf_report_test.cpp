@@ -50,7 +50,7 @@ class SamplePdf : public ::testing::Test {
     CalculateHoroscope(ctx_);
     const fs::path file = fs::path(dir_.path().toStdString()) / name;
     WritePdfReport(file, ReportInputOf(ctx_, {"Sri Jyothisha Nilayam", "12 Temple Street", "", "Hyderabad", "India",
-                                              "500001", "040 2345 6789", "mail@example.org"},
+                                              "500001", "040 2345 6789", "office@example.org"},
                                        withAntra),
                    paper);
     return file;
@@ -90,7 +90,7 @@ TEST_F(SamplePdf, FirstPageNamesThePersonLagnaRasiAndStar) {
   const std::string page1 = PdfPageText(Write("sample.pdf", false), 1);
   for (const char* text : {"Sri Jyothisha Nilayam", "AUM GANESHAYA NAMAH", "Velnesh", "LAGNA", "Libra", "RASI",
                            "Capricon", "STAR", "Uttarashada, Pada: 3", "Hyderabad (A.P)", "17 20 N", "Birth Country",
-                           "Kaulava", "E-Mail : mail@example.org"}) {
+                           "Kaulava", "E-Mail : office@example.org"}) {
     EXPECT_NE(page1.find(text), std::string::npos) << text << "\n" << page1;
   }
   // The letterhead comes first, the person after it.
