@@ -146,7 +146,9 @@ void Particulars(PdfDocument& doc, const TitlePageValues& t) {
           QFont fitted = value;
           const QString v = Value(*fields[i].second);
           const double room = width - labelWidth;
-          while (QFontMetricsF(fitted).horizontalAdvance(v) > room && fitted.pixelSize() > doc.Pt(6)) {
+          // Shrunk to fit, down to a size that still reads; beyond it elided
+          // (a long name stands whole in the title above).
+          while (QFontMetricsF(fitted).horizontalAdvance(v) > room && fitted.pixelSize() > doc.Pt(7.5)) {
             fitted.setPixelSize(fitted.pixelSize() - 1);
           }
           p.setFont(fitted);
