@@ -23,6 +23,7 @@ namespace {
 
 constexpr const char* kPaperKey = "Print/paper";
 constexpr const char* kFolderKey = "Print/folder";
+constexpr const char* kPreviewKey = "Print/previewGeometry";
 constexpr double kPrintMarginMm = 15;
 
 // The report is laid out for Courier New; fontconfig gives Liberation Mono,
@@ -211,7 +212,9 @@ void PrintView::PrintWithPreview() {
     render::PaintTextPages(painter, *target, pieces);
   });
   preview.resize(900, 760);
+  if (settings_) preview.restoreGeometry(settings_->value(kPreviewKey).toByteArray());
   preview.exec();
+  if (settings_) settings_->setValue(kPreviewKey, preview.saveGeometry());
 }
 
 }  // namespace kelvaro::shell
