@@ -139,7 +139,8 @@ void Particulars(PdfDocument& doc, const TitlePageValues& t) {
         for (std::size_t i = g.first; i < g.last; ++i) {
           // The text report's label keeps its old spelling; a client reads
           // this one, so it says what it means.
-          const QString text = i == 8 ? QStringLiteral("Birth Country") : QString::fromLatin1(fields[i].first);
+          const QString caption = QString::fromLatin1(fields[i].first);
+          const QString text = caption == "Birth County" ? QStringLiteral("Birth Country") : caption;
           p.setFont(label);
           p.setPen(kMuted);
           p.drawText(QRectF(left, y, labelWidth, row), Qt::AlignLeft | Qt::AlignVCenter, text);
