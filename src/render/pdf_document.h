@@ -32,8 +32,8 @@ struct TextTable {
   std::vector<QString> headings;
   std::vector<std::vector<QString>> rows;
   double fontPoints = 8.5;
-  // Rows that must stand on the page of the heading (a short table is kept
-  // whole when it fits on a page at all).
+  // Rows that must stand on the page of the heading; a table shorter than
+  // three fifths of a page is kept whole.
   int keepRows = 3;
 };
 
@@ -45,10 +45,7 @@ class PdfDocument {
   double Pt(double points) const { return points * frame_.dotsPerPoint; }
   QFont Font(const char* family, double points, bool bold = false, bool italic = false) const;
   double Width() const { return content_.width(); }
-  double Left() const { return content_.left(); }
-  double Top() const { return y_; }
   double Remaining() const { return content_.bottom() - y_; }
-  int Page() const { return page_; }
 
   void NewPage();
   // A new page unless `height` still fits on this one (a fresh page takes
@@ -56,11 +53,11 @@ class PdfDocument {
   void EnsureRoom(double height);
   void Space(double points) { y_ += Pt(points); }
 
-  // Lines of text in the content's width, wrapped at blanks; returns their height.
-  double TextHeight(const QString& text, const QFont& font) const;
+  // Lines of text in the content's width, wrapped at blanks.
   void Text(const QString& text, const QFont& font, Qt::Alignment align = Qt::AlignLeft,
             const QColor& colour = QColor(25, 20, 16));
-  // A heading kept on the page of the `following` height after it.
+  // A heading kept on the page of what follows it, `following` high (in
+  // device units).
   void Heading(const QString& text, double following);
   void Rule(double widthPoints = 0.6, const QColor& colour = QColor(150, 120, 80));
 
@@ -79,10 +76,10 @@ class PdfDocument {
   // Ends the last page with its footer; returns the page count.
   int Finish();
 
-  QPainter* Painter() const { return painter_; }
-
  private:
   void Footer();
+  // The height of Text's lines.
+  double TextHeight(const QString& text, const QFont& font) const;
 
   QPainter* painter_;
   QPagedPaintDevice* device_;
