@@ -19,6 +19,7 @@ constexpr double kMinTablePoints = 6;
 constexpr double kCellPaddingPoints = 4;
 constexpr double kRowSpacing = 1.45;       // a row's height, in lines of its font
 constexpr int kShortColumnChars = 5;       // columns of texts this short are centred
+constexpr double kKeepWholeOfPage = 0.6;   // tables up to this much of a page never split
 
 QFont MakeFont(const char* family, double pixels, bool bold, bool italic) {
   QFont font(QString::fromLatin1(family));
@@ -187,7 +188,7 @@ double PdfDocument::TableStartHeight(const TextTable& table) const {
   const TableRows rows = RowsOf(table, Font(kSansFamily, layout.fontPoints));
   const double whole = rows.heading + rows.row * static_cast<double>(table.rows.size());
   const int keep = std::min<int>(table.keepRows, static_cast<int>(table.rows.size()));
-  return whole <= content_.height() * 0.6 ? whole : rows.heading + rows.row * keep;
+  return whole <= content_.height() * kKeepWholeOfPage ? whole : rows.heading + rows.row * keep;
 }
 
 void PdfDocument::Table(const TextTable& table) {
