@@ -9,11 +9,6 @@ namespace kelvaro::render {
 
 namespace {
 
-const QColor kInk(25, 20, 16);
-const QColor kMuted(110, 90, 70);
-const QColor kHeadingTint(240, 229, 205);
-const QColor kStripe(250, 246, 237);
-const QColor kTableRule(150, 120, 80);
 constexpr double kFooterPoints = 7.5;
 constexpr double kMinTablePoints = 6;
 constexpr double kCellPaddingPoints = 4;
@@ -102,10 +97,10 @@ void PdfDocument::Footer() {
   const QFontMetricsF m(font);
   const double top = content_.bottom() + Pt(frame_.marginPoints) * 0.35;
   painter_->save();
-  painter_->setPen(QPen(kTableRule, Pt(0.4)));
+  painter_->setPen(QPen(kRuleColour, Pt(0.4)));
   painter_->drawLine(QPointF(content_.left(), top), QPointF(content_.right(), top));
   painter_->setFont(font);
-  painter_->setPen(kMuted);
+  painter_->setPen(kMutedInk);
   const QRectF line(content_.left(), top + Pt(3), content_.width(), m.height());
   painter_->drawText(line, Qt::AlignLeft | Qt::AlignTop, footer_);
   const QString number = totalPages_ > 0 ? QStringLiteral("Page %1 of %2").arg(page_).arg(totalPages_)
@@ -217,7 +212,7 @@ void PdfDocument::Table(const TextTable& table) {
     if (painter_) {
       const QRectF band(content_.left(), y_, content_.width(), headingHeight);
       painter_->fillRect(band, kHeadingTint);
-      painter_->setPen(QPen(kTableRule, Pt(0.8)));
+      painter_->setPen(QPen(kRuleColour, Pt(0.8)));
       painter_->drawLine(band.topLeft(), band.topRight());
       painter_->drawLine(band.bottomLeft(), band.bottomRight());
       painter_->setFont(bold);
@@ -234,7 +229,7 @@ void PdfDocument::Table(const TextTable& table) {
       drawHeading();
     }
     if (painter_) {
-      if (r % 2 == 1) painter_->fillRect(QRectF(content_.left(), y_, content_.width(), row), kStripe);
+      if (r % 2 == 1) painter_->fillRect(QRectF(content_.left(), y_, content_.width(), row), kStripeTint);
       painter_->setFont(plain);
       painter_->setPen(kInk);
       drawCells(table.rows[r], y_, row, plain, false);
@@ -242,7 +237,7 @@ void PdfDocument::Table(const TextTable& table) {
     y_ += row;
   }
   if (painter_) {
-    painter_->setPen(QPen(kTableRule, Pt(0.8)));
+    painter_->setPen(QPen(kRuleColour, Pt(0.8)));
     painter_->drawLine(QPointF(content_.left(), y_), QPointF(content_.right(), y_));
   }
   y_ += Pt(0.8);

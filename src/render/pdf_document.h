@@ -27,6 +27,16 @@ inline constexpr const char* kSansFamily = "DejaVu Sans";
 inline constexpr const char* kSerifFamily = "DejaVu Serif";
 inline constexpr const char* kMonoFamily = "Liberation Mono";
 
+// The colours of the typeset pages: ink, muted ink for labels, and the warm
+// tints of the charts' paper for bands and table headings.
+inline const QColor kInk(25, 20, 16);
+inline const QColor kMutedInk(110, 90, 70);
+inline const QColor kRuleColour(150, 120, 80);
+inline const QColor kHeadingTint(240, 229, 205);
+inline const QColor kStripeTint(250, 246, 237);
+inline const QColor kBandTint(250, 243, 226);
+inline const QColor kBandEdge(190, 160, 110);
+
 struct TextTable {
   // One heading per column; a "\n" in it starts a second heading line.
   std::vector<QString> headings;
@@ -55,11 +65,11 @@ class PdfDocument {
 
   // Lines of text in the content's width, wrapped at blanks.
   void Text(const QString& text, const QFont& font, Qt::Alignment align = Qt::AlignLeft,
-            const QColor& colour = QColor(25, 20, 16));
+            const QColor& colour = kInk);
   // A heading kept on the page of what follows it, `following` high (in
   // device units).
   void Heading(const QString& text, double following);
-  void Rule(double widthPoints = 0.6, const QColor& colour = QColor(150, 120, 80));
+  void Rule(double widthPoints = 0.6, const QColor& colour = kRuleColour);
 
   // A table across the content's width; the columns as wide as their texts
   // need, the rest of the width shared among them; the font shrinks (to 6
