@@ -12,6 +12,7 @@ packages=(
   tzdata
   qt6-base-dev qt6-svg-dev libgl-dev
   fonts-dejavu-core fonts-liberation2 fonts-lohit-deva
+  poppler-utils
 )
 
 missing=()

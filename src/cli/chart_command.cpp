@@ -1,17 +1,24 @@
 // kelvaro-cli chart: every view's content after the whole calculation: the
 // Rasi, Navamsa and Bhava charts cell by cell, the planet table, the Bhava
-// grids, the divisional charts, the Ashtakavarga and the dasa.
+// grids, the divisional charts, the Ashtakavarga and the dasa; or, with
+// --image, one chart drawn into an SVG or PNG file.
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
+#include <filesystem>
+#include <cctype>
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <string>
 
+#include "analysis/rasi_number.h"
 #include "cli/cli.h"
+#include "cli/gui_start.h"
 #include "cli/grid_output.h"
 #include "cli/horoscope_run.h"
 #include "horoscope/calculation_context.h"
 #include "presentation/chart_cells_text.h"
+#include "render/chart_painter.h"
 
 namespace kelvaro::cli {
 
@@ -45,6 +52,46 @@ std::vector<const Grid*> DasaGrids(const CalculationContext& ctx) {
   return {&ctx.dasa.mshDasa, &ctx.dasa.mshBukti, &ctx.dasa.mshAntra};
 }
 
+struct ChartOptions {
+  HoroscopeOptions horoscope;
+  std::string image;
+  std::string window = "rasi";
+};
+
+// The side of a written chart image, in pixels (PNG) or user units (SVG).
+constexpr int kImageSide = 800;
+
+std::string LowerExtension(const std::string& file) {
+  std::string ext = std::filesystem::path(file).extension().string();
+  std::transform(ext.begin(), ext.end(), ext.begin(), [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  return ext;
+}
+
+void WriteChartImage(const ChartOptions& o, const CalculationContext& ctx, Session& session) {
+  const bool navamsa = o.window == "navamsa";
+  const ChartWindow& window = navamsa ? ctx.cells.navamsa : o.window == "bhava" ? ctx.cells.bhava : ctx.cells.rasi;
+  const char* title = navamsa ? "Navamsa" : o.window == "bhava" ? "Bhava" : "Rasi";
+  const auto frame = window.VisibleFrame();
+  if (!frame) {
+    session.err << "kelvaro-cli: no chart to draw: the chart style \"" << ctx.state.ChartStyle
+                << "\" is none of South, North and East\n";
+    session.status = kExitFailure;
+    return;
+  }
+  // The Bhava chart's houses run from the Lagna's sign, so it marks the Rasi Lagna.
+  const int lagna = RasiOfLongitude(ctx.state.LagnaLon, navamsa ? kNavamsaDivision : kRasiDivision);
+  StartGui();
+  const render::ChartPicture picture = render::PictureOf(window, *frame, lagna, title);
+  const QString path = QString::fromStdString(o.image);
+  QString error;
+  const bool saved = LowerExtension(o.image) == ".svg" ? render::SaveChartSvg(picture, path, kImageSide, &error)
+                                                       : render::SaveChartPng(picture, path, kImageSide, &error);
+  if (!saved) {
+    session.err << "kelvaro-cli: " << error.toStdString() << "\n";
+    session.status = kExitFailure;
+  }
+}
+
 void PrintChart(const CalculationContext& ctx, bool json, Session& session) {
   if (json) {
     nlohmann::ordered_json j;
@@ -70,10 +117,24 @@ void PrintChart(const CalculationContext& ctx, bool json, Session& session) {
 
 void RegisterChartCommand(CLI::App& app, Session& session) {
   auto* cmd = app.add_subcommand("chart", "Every view of the horoscope: charts, tables, divisional charts, dasa");
-  auto o = std::make_shared<HoroscopeOptions>();
-  AddHoroscopeOptions(cmd, *o, true);
+  auto o = std::make_shared<ChartOptions>();
+  AddHoroscopeOptions(cmd, o->horoscope, true);
+  auto* image = cmd->add_option("--image", o->image, "Draw one chart into this file, FILE.svg or FILE.png");
+  cmd->add_option("--window", o->window, "The chart --image draws: rasi, navamsa or bhava")
+      ->check(CLI::IsMember({"rasi", "navamsa", "bhava"}, CLI::ignore_case))
+      ->needs(image);
   cmd->callback([&session, o]() {
-    RunHoroscope(*o, session, [&](const CalculationContext& ctx, store::Database&) { PrintChart(ctx, o->json, session); });
+    std::transform(o->window.begin(), o->window.end(), o->window.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    if (!o->image.empty() && LowerExtension(o->image) != ".svg" && LowerExtension(o->image) != ".png") {
+      session.err << "kelvaro-cli: --image: the file name must end in .svg or .png: " << o->image << "\n";
+      session.status = kExitBadInput;
+      return;
+    }
+    RunHoroscope(o->horoscope, session, [&](const CalculationContext& ctx, store::Database&) {
+      if (o->image.empty()) PrintChart(ctx, o->horoscope.json, session);
+      else WriteChartImage(*o, ctx, session);
+    });
   });
 }
 

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "analysis/rasi_number.h"
+
 namespace kelvaro {
 
 TitlePageValues TitlePageValuesOf(const BirthSummary& b) {
@@ -39,8 +41,11 @@ TitlePageValues TitlePageValuesOf(const BirthSummary& b) {
 }
 
 ReportInput ReportInputOf(const CalculationContext& ctx, OwnerDetails owner, bool withAntra) {
-  return ReportInput{TitlePageValuesOf(ctx.summary), std::move(owner), ctx.state.ChartStyle, ctx.state.BhavaSystem,
-                     ctx.cells,  ctx.planets, ctx.bhava, ctx.vargas, ctx.ashtakavarga, ctx.dasa, withAntra};
+  ReportInput input{TitlePageValuesOf(ctx.summary), std::move(owner), ctx.state.ChartStyle, ctx.state.BhavaSystem,
+                    ctx.cells,  ctx.planets, ctx.bhava, ctx.vargas, ctx.ashtakavarga, ctx.dasa, withAntra};
+  input.rasiLagnaSign = RasiOfLongitude(ctx.state.LagnaLon, kRasiDivision);
+  input.navamsaLagnaSign = RasiOfLongitude(ctx.state.LagnaLon, kNavamsaDivision);
+  return input;
 }
 
 }  // namespace kelvaro

@@ -108,6 +108,8 @@ void WriteHtmlReport(const std::filesystem::path& path, std::string_view text) {
   WriteAtomically(path, {HtmlReportBytes(text)});
 }
 
+void WriteReportFile(const std::filesystem::path& path, std::string_view bytes) { WriteAtomically(path, {bytes}); }
+
 std::vector<std::string> PrintPieces(std::string_view text, bool withoutAntra) {
   std::vector<std::string> pieces;
   size_t index = 0;

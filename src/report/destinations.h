@@ -43,6 +43,10 @@ void WriteTextReport(const std::filesystem::path& path, std::string_view text);
 // escaping) and "</pre>", each ended by CR LF. Atomic as WriteTextReport.
 void WriteHtmlReport(const std::filesystem::path& path, std::string_view text);
 
+// Any other report file (a PDF): the bytes as they are, atomic as
+// WriteTextReport.
+void WriteReportFile(const std::filesystem::path& path, std::string_view bytes);
+
 // The pieces that direct printing sends, one printer page each: the text
 // split at every form feed; with withoutAntra ("Without Antra"), pieces of
 // index above 5 are left out. File output never skips pages.

@@ -2,13 +2,12 @@
 
 #include <algorithm>
 #include <cctype>
-#include <functional>
 #include <initializer_list>
-#include <map>
 #include <string_view>
 #include <vector>
 
 #include "presentation/text_charts.h"
+#include "report/period_blocks.h"
 
 namespace kelvaro {
 
@@ -295,60 +294,15 @@ std::string PeriodLine(const std::string& lord, const std::string& start, const 
 // split across columns.
 using Block = std::vector<std::string>;
 
-// The English lord names of the dasa lists in the language of the report,
-// as the dasa grid shows each of the nine lords.
-std::map<std::string, std::string, std::less<>> LocalLordNames(const DasaTables& dasa) {
-  std::map<std::string, std::string, std::less<>> names;
-  for (size_t k = 0; k < dasa.DasaLord.size(); ++k) {
-    const int row = static_cast<int>(k) + 1;
-    if (row < dasa.mshDasa.Rows() && dasa.mshDasa.Cols() > 0) names[dasa.DasaLord[k]] = Trim(dasa.mshDasa.Text(row, 0));
-  }
-  return names;
-}
-
-const std::string& Local(const std::map<std::string, std::string, std::less<>>& names, const std::string& lord) {
-  const auto it = names.find(lord);
-  return it == names.end() || it->second.empty() ? lord : it->second;
-}
-
-std::string GridText(const Grid& grid, int row, int col) {
-  return row < grid.Rows() && col < grid.Cols() ? Trim(grid.Text(row, col)) : std::string();
-}
-
-std::vector<Block> BhuktiBlocks(const DasaTables& dasa) {
-  const auto names = LocalLordNames(dasa);
+// The text of each block: its heading, its period lines and a blank line.
+std::vector<Block> TextBlocks(const std::vector<PeriodBlock>& periods) {
   std::vector<Block> blocks;
-  for (size_t i = 0; i < dasa.bhuktis.size(); ++i) {
-    const DasaPeriod& p = dasa.bhuktis[i];
-    if (i == 0 || p.dasaLord != dasa.bhuktis[i - 1].dasaLord) {
-      if (!blocks.empty()) blocks.back().emplace_back();
-      blocks.push_back({Local(names, p.dasaLord) + " - Bhukti"});
-    }
-    const int row = static_cast<int>(i) + 1;
-    blocks.back().push_back(
-        PeriodLine(Local(names, p.bhuktiLord), GridText(dasa.mshBukti, row, 1), GridText(dasa.mshBukti, row, 2)));
+  for (const PeriodBlock& p : periods) {
+    Block block{p.heading};
+    for (const auto& line : p.lines) block.push_back(PeriodLine(line.lord, line.start, line.end));
+    block.emplace_back();
+    blocks.push_back(std::move(block));
   }
-  if (!blocks.empty()) blocks.back().emplace_back();
-  return blocks;
-}
-
-std::vector<Block> AntraBlocks(const DasaTables& dasa) {
-  const auto names = LocalLordNames(dasa);
-  std::vector<Block> blocks;
-  // The antra grid has a section row before each run of nine antras.
-  int row = 0;
-  for (size_t i = 0; i < dasa.antras.size(); ++i) {
-    const DasaPeriod& p = dasa.antras[i];
-    if (i % 9 == 0) {
-      if (!blocks.empty()) blocks.back().emplace_back();
-      blocks.push_back({Local(names, p.dasaLord) + " - " + Local(names, p.bhuktiLord) + " - Antra"});
-      ++row;
-    }
-    ++row;
-    blocks.back().push_back(
-        PeriodLine(Local(names, p.antraLord), GridText(dasa.mshAntra, row, 1), GridText(dasa.mshAntra, row, 2)));
-  }
-  if (!blocks.empty()) blocks.back().emplace_back();
   return blocks;
 }
 
@@ -462,8 +416,8 @@ std::string ComposeReport(const ReportInput& input) {
     compose(page, input);
     pages.push_back(std::move(page.Text()));
   }
-  int last = TwoColumnPages(pages, {"Bhukti", "======", "Bukti", "Dasa"}, BhuktiBlocks(input.dasa), 6);
-  if (input.withAntra) TwoColumnPages(pages, {"Antra", "=====", "Antra", "Bhukthi"}, AntraBlocks(input.dasa), last + 1);
+  int last = TwoColumnPages(pages, {"Bhukti", "======", "Bukti", "Dasa"}, TextBlocks(BhuktiPeriodBlocks(input.dasa)), 6);
+  if (input.withAntra) TwoColumnPages(pages, {"Antra", "=====", "Antra", "Bhukthi"}, TextBlocks(AntraPeriodBlocks(input.dasa)), last + 1);
 
   std::string report;
   size_t size = pages.size();

@@ -53,6 +53,11 @@ struct ReportInput {
   const Ashtakavarga& ashtakavarga;
   const DasaTables& dasa;
   bool withAntra = false;
+  // The Lagna's sign in the Rasi chart and in the Navamsa, for the mark of
+  // the drawn charts (the Bhava chart marks the Rasi one); 0 leaves them
+  // unmarked. The text charts do not use them.
+  int rasiLagnaSign = 0;
+  int navamsaLagnaSign = 0;
 };
 
 // The web address of the page header.

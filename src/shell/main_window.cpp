@@ -74,6 +74,7 @@ MainWindow::MainWindow(Options options, QWidget* parent)
 MainWindow::~MainWindow() = default;
 
 void MainWindow::BuildMenus() {
+  BuildFileMenu();
   birthDetails_ = menuBar()->addAction(tr("&Enter Birth Details"), this, [this] { OpenBirthForm(); });
   birthDetails_->setObjectName("mnuBirthDetails");
   QMenu* tools = menuBar()->addMenu(tr("&Tools"));
@@ -102,6 +103,18 @@ void MainWindow::BuildMenus() {
   help->addAction(tr("E&xit"), QKeySequence(QKeySequence::Quit), this, &QWidget::close);
 }
 
+// The horoscope on paper: the Print view does the work, from here as from
+// its own buttons, with the choices that stand there.
+void MainWindow::BuildFileMenu() {
+  QMenu* file = menuBar()->addMenu(tr("&File"));
+  file->setObjectName("mnuFile");
+  file->addAction(tr("Save as &PDF..."), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S), this,
+                  [this] { PrintPage().SaveAsPdf(); });
+  file->addAction(tr("&Print..."), QKeySequence(QKeySequence::Print), this, [this] { PrintPage().PrintWithPreview(); });
+}
+
+PrintView& MainWindow::PrintPage() const { return *static_cast<PrintView*>(views_.back()); }
+
 void MainWindow::BuildViews() {
   stack_ = new QStackedWidget(this);
   views_ = {new DetailsView(stack_),
@@ -118,6 +131,7 @@ void MainWindow::BuildViews() {
     views_[i]->setObjectName(Qs(std::string(kHoroscopeViews[i].key)));
     stack_->addWidget(views_[i]);
   }
+  PrintPage().UseSettings(options_.settings);
   setCentralWidget(stack_);
 }
 

@@ -38,6 +38,7 @@ class HelpWindow;
 class PersonalInfoDialog;
 class PreferencesDialog;
 class TimeConverterDialog;
+class PrintView;
 class ViewPage;
 
 inline constexpr const char* kMainCaption = "Kelvaro - Kelvaro Basic (Version 2.4)";
@@ -100,6 +101,8 @@ class MainWindow : public QMainWindow {
 
  private:
   void BuildMenus();
+  void BuildFileMenu();
+  PrintView& PrintPage() const;
   void BuildTree();
   void BuildViews();
   void ShowProgress(int done, int total);
