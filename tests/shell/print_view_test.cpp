@@ -5,6 +5,7 @@
 #include <QFileDialog>
 #include <QGroupBox>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
@@ -158,7 +159,7 @@ TEST_F(PrintViewTest, PreviewShowsOnePagePerPiece) {
 TEST_F(PrintViewTest, SaveAsPdfFromTheFileMenu) {
   ASSERT_TRUE(kelvaro::testing::HavePoppler()) << "pdfinfo is missing: install poppler-utils";
   view_->Paper().setCurrentText("Letter");
-  QAction* save = window_->menuBar()->actions().at(0)->menu()->actions().at(0);
+  QAction* save = window_->findChild<QMenu*>("mnuFile")->actions().at(0);
   const SeenDialog seen = AnswerDialog([&] { save->trigger(); }, Path("velnesh"));
   EXPECT_EQ(seen.title, "Save as PDF");
   EXPECT_EQ(seen.filters, QStringList({"PDF Files (*.pdf)"}));
