@@ -23,7 +23,12 @@ bool IsAm(OleDate moment) { return moment.Hour() < 12; }
 // found them.
 struct DayLimits {
   SunEvent rise, set, nextRise;
-  bool Known() const { return rise.Known() && set.Known() && nextRise.Known(); }
+  // Known, and in their order: near the polar circles a date can hold a set
+  // before its rise, which bounds no day.
+  bool Known() const {
+    return rise.Known() && set.Known() && nextRise.Known() && rise.moment < set.moment &&
+           set.moment < nextRise.moment;
+  }
   // All three on their own dates: the day the rules were written for.
   bool Ordinary() const {
     return rise.kind == SunEventKind::OnDate && set.kind == SunEventKind::OnDate &&
