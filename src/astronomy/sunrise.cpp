@@ -151,11 +151,11 @@ void clsSunrise::FnFindRiseAndSet() {
 // The first rise within 48 hours of the date's start, and the first set after
 // it (or the first set, when the date has no rise), by the same parabolas as
 // the search: a set before the rise ends the day before. Unlike the search,
-// every crossing counts,
-// two in one window included, and nothing found on a later day is stamped on
-// this date. Where an event is found on the date, its output takes the true
-// value; otherwise the output keeps what the search left (the carry-over
-// that the calendars' scans rely on) and the event says what happened.
+// every crossing counts, two in one window included, and nothing found on a
+// later day is stamped on this date. Where an event is found on the date, its
+// output takes the true value; otherwise the output keeps what the search
+// left (the carry-over that the calendars' scans rely on) and the event says
+// what happened.
 void clsSunrise::ClassifyEvents(double date, double sinh0) {
   constexpr double kScanHours = 48;
   double firstRise = kScanHours;
