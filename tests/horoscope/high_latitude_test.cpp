@@ -39,6 +39,11 @@ TEST(HighLatitudeBirth, ReykjavikMidsummerNoonIsNotNight) {
     EXPECT_EQ(FormatDate(ctx.state.DaySunset, "DD/MM/YYYY HH"), std::string(c.sunset) + " 00");
     EXPECT_GT(ctx.state.GulikaMoment, ctx.state.DaySunrise);
   }
+  CalculationContext ctx;  // the summary shows the true date, not a moment of 1899
+  Set(ctx.state, cases[0].birth);
+  ComputeChartPositions(ctx, kRasiDivision);
+  FillBirthSummary(ctx);
+  EXPECT_EQ(ctx.summary.txtSunSet.substr(0, 16), "16/Jun/2000 12:0");
 }
 
 // 70N 25E, zone 1 E, 21 Dec 2000, polar night: the summary says so, Gulika
