@@ -23,6 +23,9 @@ struct ChartData {
   double midHeaven = 0;
   double ayanamsa = 0;
   OleDate birthMoment;  // BirthMomentDate
+  // False where no sunrise or sunset bounds the birth's day: Gulika and
+  // Maandi are then not known, and not placed in any chart.
+  bool gulikaMaandiKnown = true;
 
   // Preferences in force.
   std::string language = "English";

@@ -191,8 +191,8 @@ std::string RetroMark(double today, double nextDay, int kind) {
   return {};
 }
 
-void FillPlanetTable(const ChartData& chart, double ishtaGhati, ClsFindPlanetPosition& positions, clsStar& star,
-                     PlanetTable& table) {
+void FillPlanetTable(const ChartData& chart, std::optional<double> ishtaGhati, ClsFindPlanetPosition& positions,
+                     clsStar& star, PlanetTable& table) {
   // The seven planets a day later, for the retrograde marks only.
   positions.FindFixValues(DateAdd(Interval::Day, 1, chart.birthMoment), chart.latNS, chart.latDeg, chart.latMin,
                           chart.lonEW, chart.lonDeg, chart.lonMin, chart.timeDiff, chart.timeDiffEW, 0,
@@ -236,7 +236,9 @@ void FillPlanetTable(const ChartData& chart, double ishtaGhati, ClsFindPlanetPos
   const std::int16_t lagnaRasi = rasi[static_cast<size_t>(Body::Lagna)];
   for (int b = static_cast<int>(Body::Sun); b <= static_cast<int>(Body::Ketu); ++b) {
     grid.SetText(b + 1, kAvasthaCol,
-                 SayanadiAvastha(star, lon(b), kEnglishLords[static_cast<size_t>(b - 1)], moon, lagnaRasi, ishtaGhati));
+                 ishtaGhati ? SayanadiAvastha(star, lon(b), kEnglishLords[static_cast<size_t>(b - 1)], moon, lagnaRasi,
+                                              *ishtaGhati)
+                            : "----");
   }
   grid.SetText(kLagnaRow, kAvasthaCol, "----");
   for (int row : {kLagnaRow, kRahuRow, kKetuRow}) {

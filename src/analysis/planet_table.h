@@ -2,6 +2,7 @@
 // The planet positions table (mshNirayana): for the Lagna and the nine
 // planets the degrees in the rasi, rasi, rasi lord, star, pada, star lord,
 // sub lord, Jaimini karaka and Sayanadi avastha.
+#include <optional>
 #include <string>
 
 #include "analysis/chart_data.h"
@@ -46,8 +47,10 @@ std::string RetroMark(double today, double nextDay, int kind);
 // just run. `positions` is run once for the moment a day after the birth (the
 // seven planets' retrograde marks) and is left holding that moment. `star` is
 // the shared classifier. `ishtaGhati` is the birth's ishta ghati, which feeds
-// the avasthas. On an error (CalculationError) the table is left as it was.
-void FillPlanetTable(const ChartData& chart, double ishtaGhati, ClsFindPlanetPosition& positions, clsStar& star,
-                     PlanetTable& table);
+// the avasthas; without one (a day with no sunrise) every avastha cell holds
+// "----", as the Lagna's does. On an error (CalculationError) the table is
+// left as it was.
+void FillPlanetTable(const ChartData& chart, std::optional<double> ishtaGhati, ClsFindPlanetPosition& positions,
+                     clsStar& star, PlanetTable& table);
 
 }  // namespace kelvaro

@@ -20,6 +20,10 @@ class clsFindSunrise {
                         const std::string& strEW, double lonDeg, double lonMin, std::int16_t daylightFlag,
                         double zoneHours, const std::string& strZoneSide);
 
+  // What the last call found: the rise on the date, after midnight, or why
+  // there is none.
+  const SunEvent& LastSunrise() const { return m_sunrise.m_sunriseEvent; }
+
  private:
   clsSunrise m_sunrise;
 };

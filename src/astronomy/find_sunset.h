@@ -18,6 +18,10 @@ class clsFindSunSet {
                        const std::string& strEW, double lonDeg, double lonMin, std::int16_t daylightFlag,
                        double zoneHours, const std::string& strZoneSide);
 
+  // What the last call found: the set on the date, after midnight (its true
+  // date), or why there is none.
+  const SunEvent& LastSunset() const { return m_sunrise.m_sunsetEvent; }
+
  private:
   clsSunrise m_sunrise;
 };

@@ -37,6 +37,9 @@ void ClsPlanet::FnFindLagna() {
   TropicalAscendant = a;
 
   LagnaValue = FnNormalize360(a + Ayanamsa);
+  // Near a pole q is huge and a lands a hair below a full turn, which can
+  // round to exactly 360 (at 90S it does); a full turn is Aries 0.
+  if (LagnaValue >= 360) LagnaValue -= 360;
   MidHeaven = FnNormalize360(m + Ayanamsa);
 }
 

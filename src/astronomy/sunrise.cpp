@@ -137,6 +137,77 @@ void clsSunrise::FnFindRiseAndSet() {
 
   if (rise) m_dateSunrise = FnHoursToDate(riseTime);
   if (set) m_dateSunset = FnHoursToDate(setTime);
+
+  // An ordinary day needs nothing more: both events were flagged on the date,
+  // the rise first.
+  if (rise && set && riseTime < setTime && setTime < 24) {
+    m_sunriseEvent = {SunEventKind::OnDate, m_dateSunrise};
+    m_sunsetEvent = {SunEventKind::OnDate, m_dateSunset};
+    return;
+  }
+  ClassifyEvents(date, sinh0);
+}
+
+// The first rise within 48 hours of the date's start, and the first set after
+// it (or the first set, when the date has no rise), by the same parabolas as
+// the search: a set before the rise ends the day before. Unlike the search,
+// every crossing counts, two in one window included, and nothing found on a
+// later day is stamped on this date. Where an event is found on the date, its
+// output takes the true value; otherwise the output keeps what the search
+// left (the carry-over that the calendars' scans rely on) and the event says
+// what happened.
+void clsSunrise::ClassifyEvents(double date, double sinh0) {
+  constexpr double kScanHours = 48;
+  double firstRise = kScanHours;
+  double firstSet = kScanHours;
+  double setBeforeRise = kScanHours;  // a set on the date before its rise
+  Parabola p;
+  const auto noteSet = [&](double at) {
+    if (at < firstRise) {
+      if (at < setBeforeRise) setBeforeRise = at;
+    } else if (at < firstSet) {
+      firstSet = at;
+    }
+  };
+  double yMinus = FnFindSinAltitude(date, 0) - sinh0;
+  for (double hour = 1; hour < kScanHours; hour = hour + 2) {
+    const double y0 = FnFindSinAltitude(date, hour) - sinh0;
+    const double yPlus = FnFindSinAltitude(date, hour + 1) - sinh0;
+    FnFindQuadraticRoots(yMinus, y0, yPlus, p);
+    // Windows come in time order, so the first rise is found before any set
+    // that follows it.
+    if (p.nz == 1) {
+      if (yMinus < 0 && firstRise == kScanHours) firstRise = hour + p.x1;
+      if (yMinus >= 0) noteSet(hour + p.x1);
+    } else if (p.nz == 2) {
+      // A minimum below the horizon: down at x1, up at x2; a maximum: the reverse.
+      const double riseAt = hour + (p.ye < 0 ? p.x2 : p.x1);
+      const double setAt = hour + (p.ye < 0 ? p.x1 : p.x2);
+      if (p.ye < 0) noteSet(setAt);
+      if (firstRise == kScanHours) firstRise = riseAt;
+      if (p.ye >= 0) noteSet(setAt);
+    }
+    yMinus = yPlus;
+  }
+  // Without an event the Sun keeps one side of the horizon the whole time;
+  // its altitude at the date's noon tells which.
+  const bool up = FnFindSinAltitude(date, 12) - sinh0 > 0;
+  const auto eventAt = [this, up](double hours) {
+    if (hours >= kScanHours) return SunEvent{up ? SunEventKind::SunStaysUp : SunEventKind::SunStaysDown, OleDate()};
+    return SunEvent{hours < 24 ? SunEventKind::OnDate : SunEventKind::NextDate, TrueMoment(hours)};
+  };
+  m_sunriseEvent = eventAt(firstRise);
+  // Without a rise on the date, a set on it is the date's set.
+  m_sunsetEvent = eventAt(firstRise >= 24 && setBeforeRise < kScanHours ? setBeforeRise : firstSet);
+  if (m_sunriseEvent.kind == SunEventKind::OnDate) m_dateSunrise = m_sunriseEvent.moment;
+  if (m_sunsetEvent.kind == SunEventKind::OnDate) m_dateSunset = m_sunsetEvent.moment;
+}
+
+// `hours` after the date's clock midnight, to the whole minute, on whatever
+// date that falls.
+OleDate clsSunrise::TrueMoment(double hours) const {
+  const double minutes = Fix(hours * 60 + 0.5);
+  return DateAdd(Interval::Minute, minutes, OleDate::FromParts(m_year, m_month, m_day));
 }
 
 // The parabola through (-1, y-), (0, y0), (+1, y+): its extreme (xe, ye) and

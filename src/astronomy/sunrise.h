@@ -8,7 +8,9 @@
 //
 // Usage: set the public members, call FnCalculate(), read m_dateSunrise and
 // m_dateSunset. An output whose event is not found keeps its earlier value;
-// callers rely on that carry-over.
+// callers rely on that carry-over. m_sunriseEvent and m_sunsetEvent say
+// honestly what was found: on the date, after midnight, or no event at all.
+#include "astronomy/sun_event.h"
 #include "common/ole_date.h"
 
 namespace kelvaro {
@@ -24,12 +26,15 @@ class clsSunrise {
   OleDate m_dateSunset;          // output
   double STZ = 0.0;              // zone hours, East positive
   double DSAVE = 0.0;            // stored; no step reads it
+  SunEvent m_sunriseEvent;       // output: the rise of the date, or why there is none
+  SunEvent m_sunsetEvent;        // output: the set of the date, or why there is none
 
   // Fills m_dateSunrise and m_dateSunset, each stamped on the date of
   // BirthDateTime to the whole minute. Raises CalculationError when a
   // floating-point step fails, and when no sunrise turns up within 400 days of
   // hours after the date (the search steps on into later days while the Sun
-  // has not risen).
+  // has not risen). Sets m_sunriseEvent and m_sunsetEvent; an ordinary day
+  // costs nothing more than the search.
   void FnCalculate();
 
  private:
@@ -57,6 +62,9 @@ class clsSunrise {
   static double FnFindLocalSiderealHours(double mjd, double longitudeDeg);
   static MiniSun FnFindMiniSun(double centuries);
   OleDate FnHoursToDate(double hours) const;
+  // The events of a day that is not an ordinary one, from a scan of its own.
+  void ClassifyEvents(double date, double sinh0);
+  OleDate TrueMoment(double hours) const;
 
   // Altitude thresholds; index 0 is the one in use (the selector is never set).
   int m_thresholdIndex = 0;

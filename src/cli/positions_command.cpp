@@ -29,6 +29,19 @@ constexpr const char* kBodyLabels[kBodyCount] = {"Lagna",  "Sun",    "Moon", "Ma
 
 std::string Clock24(OleDate moment) { return FormatDate(moment, "DD/MM/YYYY HH:NN"); }
 
+// A sunrise or sunset: its true moment (on the next date when it falls after
+// midnight), or the words that say there is none.
+std::string SunEventText(const SunEvent& event) {
+  return event.Known() ? Clock24(event.moment) : std::string(SunEventWords(event));
+}
+
+// Where no sunrise or sunset bounds the birth's day.
+constexpr const char* kLeftOut = "left out: no sunrise or sunset bounds the day";
+
+bool LeftOut(const HoroscopeState& s, int body) {
+  return !s.GulikaMaandiKnown && (body == static_cast<int>(Body::Gulika) || body == static_cast<int>(Body::Maandi));
+}
+
 // 205.2472 -> 205°14'50", by the program's own angle rule.
 std::string DegreesMinutesSeconds(double angle) {
   const AngleParts p = SplitAngle(angle);
@@ -40,13 +53,16 @@ nlohmann::ordered_json PositionsJson(const HoroscopeState& s) {
   for (int b = 0; b < 10; ++b) j[kBodyKeys[b]] = s.LongitudeOf(static_cast<Body>(b));
   j["midheaven"] = s.MidHeaven;
   j["ayanamsa"] = s.Ayanamsa;
-  j["sunrise"] = Clock24(s.SunriseOfBirthDay);
-  j["sunset"] = Clock24(s.SunsetOfBirthDay);
-  j["day_or_night"] = s.DayOrNight;
-  j["gulika"] = s.GulikaLon;
-  j["maandi"] = s.MaandiLon;
+  j["sunrise"] = SunEventText(s.SunriseEvent);
+  j["sunset"] = SunEventText(s.SunsetEvent);
+  const bool known = s.GulikaMaandiKnown;
+  j["day_or_night"] = known ? nlohmann::ordered_json(s.DayOrNight) : nlohmann::ordered_json();
+  j["gulika"] = known ? nlohmann::ordered_json(s.GulikaLon) : nlohmann::ordered_json();
+  j["maandi"] = known ? nlohmann::ordered_json(s.MaandiLon) : nlohmann::ordered_json();
   nlohmann::ordered_json rasi;
-  for (int b = 0; b < kBodyCount; ++b) rasi[kBodyKeys[b]] = s.RasiOf(static_cast<Body>(b));
+  for (int b = 0; b < kBodyCount; ++b) {
+    rasi[kBodyKeys[b]] = LeftOut(s, b) ? nlohmann::ordered_json() : nlohmann::ordered_json(s.RasiOf(static_cast<Body>(b)));
+  }
   j["rasi"] = rasi;
   return j;
 }
@@ -55,6 +71,10 @@ std::string PositionsTable(const HoroscopeState& s) {
   std::string out;
   out += fmt::format("{:<10} {:>13}  {:<11} {:>10}\n", "Body", "Longitude", "Rasi", "In rasi");
   for (int b = 0; b < kBodyCount; ++b) {
+    if (LeftOut(s, b)) {
+      out += fmt::format("{:<10} {}\n", kBodyLabels[b], kLeftOut);
+      continue;
+    }
     const Body body = static_cast<Body>(b);
     const double lon = s.LongitudeOf(body);
     const int rasi = s.RasiOf(body);
@@ -63,9 +83,9 @@ std::string PositionsTable(const HoroscopeState& s) {
   }
   out += fmt::format("{:<10} {:>13}\n", "Midheaven", DegreesMinutesSeconds(s.MidHeaven));
   out += fmt::format("{:<10} {:>13}  ({})\n", "Ayanamsa", DegreesMinutesSeconds(s.Ayanamsa), s.AyanamsaName);
-  out += fmt::format("{:<10} {}\n", "Sunrise", Clock24(s.SunriseOfBirthDay));
-  out += fmt::format("{:<10} {}\n", "Sunset", Clock24(s.SunsetOfBirthDay));
-  out += fmt::format("{:<10} {}\n", "Birth by", s.DayOrNight);
+  out += fmt::format("{:<10} {}\n", "Sunrise", SunEventText(s.SunriseEvent));
+  out += fmt::format("{:<10} {}\n", "Sunset", SunEventText(s.SunsetEvent));
+  out += fmt::format("{:<10} {}\n", "Birth by", s.GulikaMaandiKnown ? s.DayOrNight : kLeftOut);
   return out;
 }
 

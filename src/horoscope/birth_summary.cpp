@@ -2,6 +2,7 @@
 #include "horoscope/birth_summary.h"
 
 #include <cmath>
+#include <optional>
 #include <string>
 
 #include "common/angle_text.h"
@@ -51,20 +52,46 @@ namespace {
 
 // Sunrise of the day that holds the moment: the day before's when the moment
 // is less than a whole minute after that date's sunrise (or before it).
-OleDate SunriseOfTheDay(CalculationContext& ctx, OleDate moment) {
+// Nothing where that date has no sunrise of its own (beyond the polar
+// circles); `why` then says what the Sun does instead.
+std::optional<OleDate> SunriseOfTheDay(CalculationContext& ctx, OleDate moment, SunEvent& why) {
   OleDate sunrise = SunriseAtBirthPlace(ctx, moment);
-  if (DateDiff(Interval::Minute, sunrise, moment) < 1) sunrise = SunriseAtBirthPlace(ctx, DateAdd(Interval::Day, -1, moment));
+  why = ctx.sunrise.LastSunrise();
+  if (why.kind != SunEventKind::OnDate) return std::nullopt;
+  if (DateDiff(Interval::Minute, sunrise, moment) >= 1) return sunrise;
+  sunrise = SunriseAtBirthPlace(ctx, DateAdd(Interval::Day, -1, moment));
+  why = ctx.sunrise.LastSunrise();
+  if (why.kind != SunEventKind::OnDate) return std::nullopt;
   return sunrise;
 }
 
 // Steps 4 and 5 of the local mean time, shared with the ishta ghati. Both
 // use the local mean time moment, so the sunrise is the last one before it
-// and the ghati lies from 0 to below 60.
+// and the ghati lies from 0 to below 60. Without a sunrise the ghati is not
+// known and the words say why.
 void GhatiFromSunrise(CalculationContext& ctx) {
   BirthSummary& b = ctx.summary;
-  b.SunriseForGhati = SunriseOfTheDay(ctx, b.LocalMeanTimeMoment);
+  SunEvent why;
+  const std::optional<OleDate> sunrise = SunriseOfTheDay(ctx, b.LocalMeanTimeMoment, why);
+  b.IshtaGhatiKnown = sunrise.has_value();
+  if (!sunrise) {
+    b.IshtaGhatiWords = SunEventWords(why);
+    b.IshtaGhatiMinutes = b.IshtaGhati = 0;
+    return;
+  }
+  b.SunriseForGhati = *sunrise;
   b.IshtaGhatiMinutes = static_cast<double>(DateDiff(Interval::Minute, b.SunriseForGhati, b.LocalMeanTimeMoment));
   b.IshtaGhati = b.IshtaGhatiMinutes / 60 * 2.5;
+}
+
+// A sunrise or sunset for the details: the clock on the date, the full date
+// and clock after midnight, or the words.
+std::string SunEventField(const SunEvent& event, OleDate onDate) {
+  switch (event.kind) {
+    case SunEventKind::OnDate: return FormatDate(onDate, "HH:NN AM/PM");
+    case SunEventKind::NextDate: return FormatDate(event.moment, "dd/MMM/YYYY HH:NN AM/PM");
+    default: return SunEventWords(event);
+  }
 }
 
 std::string PlaceText(double degrees, double minutes, const std::string& letter) {
@@ -142,6 +169,10 @@ void ComputeIshtaGhati(CalculationContext& ctx) {
   const HoroscopeState& s = ctx.state;
   BirthSummary& b = ctx.summary;
   GhatiFromSunrise(ctx);
+  if (!b.IshtaGhatiKnown) {
+    b.txtIshtaGhati = b.IshtaGhatiWords;
+    return;
+  }
   // The date in force goes to the positions, and the Sun there is kept.
   ctx.positions.FindFixValues(b.SunriseForGhati.DateOnly(), s.LatNS, s.LatDeg, s.LatMin, s.LonEW, s.LonDeg,
                               s.LonMin, s.TimeDiff, s.TimeDiffEW, 0, s.AyanamsaInForce, s.YearInForce,
@@ -177,12 +208,12 @@ void FillBirthSummary(CalculationContext& ctx) {
   b.txtCountry = s.BirthCountry;
   b.txtLatutude = PlaceText(s.LatDeg, s.LatMin, s.LatNS);
   b.txtLongitude = PlaceText(s.LonDeg, s.LonMin, s.LonEW);
-  b.txtSunRise = FormatDate(s.SunriseOfBirthDay, "HH:NN AM/PM");
-  b.txtSunSet = FormatDate(s.SunsetOfBirthDay, "HH:NN AM/PM");
+  b.txtSunRise = SunEventField(s.SunriseEvent, s.SunriseOfBirthDay);
+  b.txtSunSet = SunEventField(s.SunsetEvent, s.SunsetOfBirthDay);
   b.txtGregorian = WeekdayName(b.SummaryMoment.Weekday());
-  // The Vedic day begins at sunrise.
-  const OleDate vedicDay =
-      b.SummaryMoment < s.SunriseOfBirthDay ? DateAdd(Interval::Day, -1, b.SummaryMoment) : b.SummaryMoment;
+  // The Vedic day begins at sunrise; on a date without one it is the civil day.
+  const bool beforeSunrise = s.SunriseEvent.kind == SunEventKind::OnDate && b.SummaryMoment < s.SunriseOfBirthDay;
+  const OleDate vedicDay = beforeSunrise ? DateAdd(Interval::Day, -1, b.SummaryMoment) : b.SummaryMoment;
   b.txtVedic = WeekdayName(vedicDay.Weekday());
   b.txtTimeZone = s.BirthTimeZoneName;
 

@@ -19,6 +19,8 @@ struct BirthSummary {
   OleDate SunriseForGhati;        // sunrise of the day that holds the moment
   double IshtaGhatiMinutes = 0;   // minutes from that sunrise to the moment
   double IshtaGhati = 0;          // the same in ghatis
+  bool IshtaGhatiKnown = true;    // false where the day has no sunrise: then the two above are 0
+  std::string IshtaGhatiWords;    // why not, "Sun does not rise" or "Sun does not set"
   double SunAtGhatiDate = 0;      // the Sun's longitude on the date in force, kept
 
   // The fields, in the order they are written.

@@ -1,5 +1,6 @@
 #include "horoscope/calculate_horoscope.h"
 
+#include <optional>
 #include <utility>
 
 #include "horoscope/birth_summary.h"
@@ -18,7 +19,9 @@ void Advance(CalculationContext& ctx, int& done) {
 void FillPlanetPositions(CalculationContext& ctx) {
   LoadNamesForLanguage(ctx.state);
   ComputeChartPositions(ctx, kRasiDivision);
-  FillPlanetTable(ChartDataOf(ctx.state), ctx.summary.IshtaGhati, ctx.positions, ctx.star, ctx.planets);
+  const BirthSummary& b = ctx.summary;
+  const std::optional<double> ghati = b.IshtaGhatiKnown ? std::optional<double>(b.IshtaGhati) : std::nullopt;
+  FillPlanetTable(ChartDataOf(ctx.state), ghati, ctx.positions, ctx.star, ctx.planets);
 }
 
 void RunSequence(CalculationContext& ctx) {

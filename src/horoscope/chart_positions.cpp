@@ -19,6 +19,23 @@ OleDate JoinDateAndClock(OleDate day, OleDate clock) {
 
 bool IsAm(OleDate moment) { return moment.Hour() < 12; }
 
+// The sunrise and sunset of a day and the sunrise after them, as the search
+// found them.
+struct DayLimits {
+  SunEvent rise, set, nextRise;
+  // Known, and in their order: near the polar circles a date can hold a set
+  // before its rise, which bounds no day.
+  bool Known() const {
+    return rise.Known() && set.Known() && nextRise.Known() && rise.moment < set.moment &&
+           set.moment < nextRise.moment;
+  }
+  // All three on their own dates: the day the rules were written for.
+  bool Ordinary() const {
+    return rise.kind == SunEventKind::OnDate && set.kind == SunEventKind::OnDate &&
+           nextRise.kind == SunEventKind::OnDate;
+  }
+};
+
 // The Lagna of a moment, with the ayanamsa in force. Only the Lagna is read,
 // so only the Lagna is worked out; it is the value a whole calculation gives.
 double LagnaAt(CalculationContext& ctx, OleDate moment) {
@@ -62,26 +79,53 @@ void ComputeChartPositions(CalculationContext& ctx, double division) {
     s.SetRasi(body, RasiOfLongitude(s.LongitudeOf(body), division));
   }
 
-  // 5. The limits of the civil date.
+  // 5. The limits of the civil date, and what the search found for them.
   s.SunriseOfBirthDay = SunriseAtBirthPlace(ctx, s.BirthMomentDate);
+  s.SunriseEvent = ctx.sunrise.LastSunrise();
   s.SunsetOfBirthDay = SunsetAtBirthPlace(ctx, s.BirthMomentDate);
+  s.SunsetEvent = ctx.sunset.LastSunset();
   s.SunriseNextDay = SunriseAtBirthPlace(ctx, DateAdd(Interval::Day, 1, s.BirthMomentDate));
+  const DayLimits civilDay{s.SunriseEvent, s.SunsetEvent, ctx.sunrise.LastSunrise()};
 
   // 6. Day or night: both limits lie outside the day, so a birth exactly at
-  // sunrise or sunset is a night birth.
-  if (s.BirthMomentDate > s.SunriseOfBirthDay && s.BirthMomentDate < s.SunsetOfBirthDay) {
+  // sunrise or sunset is a night birth. The comparison takes the true sunset,
+  // which after midnight lies on the next date.
+  s.GulikaMaandiKnown = true;
+  bool ordinaryDay = civilDay.Ordinary();
+  if (civilDay.Known() && s.BirthMomentDate > civilDay.rise.moment && s.BirthMomentDate < civilDay.set.moment) {
     s.DayOrNight = "Day";
     s.DayCurrentDate = s.BirthMomentDate;
     s.DaySunrise = s.SunriseOfBirthDay;
-    s.DaySunset = s.SunsetOfBirthDay;
-    s.DayNextSunrise = s.SunriseNextDay;
+    s.DaySunset = civilDay.set.moment;
+    s.DayNextSunrise = civilDay.nextRise.moment;
   } else {
     s.DayOrNight = "Night";
     // After midnight and before sunrise the astrological day is the one before.
     s.DayCurrentDate = IsAm(s.BirthMomentDate) ? DateAdd(Interval::Day, -1, s.BirthMomentDate) : s.BirthMomentDate;
     s.DaySunrise = SunriseAtBirthPlace(ctx, s.DayCurrentDate);
+    const SunEvent rise = ctx.sunrise.LastSunrise();
     s.DaySunset = SunsetAtBirthPlace(ctx, s.DayCurrentDate);
+    const SunEvent set = ctx.sunset.LastSunset();
     s.DayNextSunrise = SunriseAtBirthPlace(ctx, DateAdd(Interval::Day, 1, s.DayCurrentDate));
+    const DayLimits day{rise, set, ctx.sunrise.LastSunrise()};
+    ordinaryDay = day.Ordinary();
+    if (!day.Known()) {
+      // No sunrise or no sunset bounds the birth's day: there is no day or
+      // night to speak of, and Gulika and Maandi cannot be placed.
+      s.DayOrNight.clear();
+      s.GulikaMaandiKnown = false;
+    } else {
+      s.DaySunrise = day.rise.moment;
+      s.DaySunset = day.set.moment;
+      s.DayNextSunrise = day.nextRise.moment;
+      // Early in the morning, before the day before's sunset after midnight.
+      if (s.BirthMomentDate > day.rise.moment && s.BirthMomentDate < day.set.moment) s.DayOrNight = "Day";
+    }
+  }
+  if (!s.GulikaMaandiKnown) {
+    s.GulikaLon = s.MaandiLon = 0;
+    s.GulikaRasi = s.MaandiRasi = 0;
+    return;
   }
 
   // 7. The day and night parts.
@@ -98,8 +142,15 @@ void ComputeChartPositions(CalculationContext& ctx, double division) {
 
   // 8. The rise moments joined to their dates. A night rise after midnight
   // falls on the day after the sunrise's; the date found also becomes
-  // DayCurrentDate.
-  if (s.DayOrNight == "Day") {
+  // DayCurrentDate. On a day whose sunset falls after midnight a rise may
+  // too, so there each rise keeps its own date.
+  if (!ordinaryDay) {
+    const OleDate gulika = s.DayOrNight == "Day" ? s.GulikaDay : s.GulikaNight;
+    const OleDate mandi = s.DayOrNight == "Day" ? s.MandiDay : s.MandiNight;
+    s.GulikaMoment = JoinDateAndClock(gulika, gulika);
+    s.MandiMoment = JoinDateAndClock(mandi, mandi);
+    s.DayCurrentDate = mandi.DateOnly();
+  } else if (s.DayOrNight == "Day") {
     s.GulikaMoment = JoinDateAndClock(s.DaySunrise, s.GulikaDay);
     s.MandiMoment = JoinDateAndClock(s.DaySunrise, s.MandiDay);
   } else {

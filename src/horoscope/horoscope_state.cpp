@@ -45,6 +45,7 @@ ChartData ChartDataOf(const HoroscopeState& s) {
   d.midHeaven = s.MidHeaven;
   d.ayanamsa = s.Ayanamsa;
   d.birthMoment = s.BirthMomentDate;
+  d.gulikaMaandiKnown = s.GulikaMaandiKnown;
   d.language = s.Language;
   d.bhavaSystem = s.BhavaSystem;
   d.chartStyle = s.ChartStyle;

@@ -8,6 +8,7 @@
 
 #include "analysis/chart_data.h"
 #include "analysis/rasi_number.h"
+#include "astronomy/sun_event.h"
 #include "common/ole_date.h"
 
 namespace kelvaro {
@@ -58,6 +59,13 @@ struct HoroscopeState {
   std::string DayOrNight;
   OleDate GulikaDay, GulikaNight, MandiDay, MandiNight;
   OleDate GulikaMoment, MandiMoment;
+  // What the sunrise search found for the civil date of the birth: each event
+  // on the date, after midnight (with its true date), or none, in words.
+  SunEvent SunriseEvent, SunsetEvent;
+  // False where no sunrise or sunset bounds the birth's day (beyond the polar
+  // circles): DayOrNight is then empty, and Gulika and Maandi are left out,
+  // their longitudes and rasis 0.
+  bool GulikaMaandiKnown = true;
 
   // Name tables, by LoadNamesForLanguage. ShortNames stands in the canonical
   // order; LongNames stands Venus before Jupiter, so address both by body.

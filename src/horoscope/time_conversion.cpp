@@ -4,6 +4,7 @@
 
 #include "astronomy/find_sunrise.h"
 #include "common/calculation_error.h"
+#include "common/date_text.h"
 #include "common/text_checks.h"
 #include "horoscope/birth_form.h"
 
@@ -51,9 +52,19 @@ ConversionOutcome ConvertTime(const ConverterEntry& entry, Conversion conversion
     return out;
   }
   clsFindSunrise finder;
+  // Both conversions count from a sunrise of the date; beyond the polar
+  // circles there may be none, and then there is nothing to count from.
   const SunriseOfDate sunriseOf = [&](OleDate date) {
-    return finder.FnFindSunrise(date, city->latNS, city->latDeg, city->latMin, city->lonEW, city->lonDeg,
-                                city->lonMin, 0, zone->timeDifference, zone->direction);
+    const OleDate sunrise = finder.FnFindSunrise(date, city->latNS, city->latDeg, city->latMin, city->lonEW,
+                                                 city->lonDeg, city->lonMin, 0, zone->timeDifference,
+                                                 zone->direction);
+    const SunEvent& event = finder.LastSunrise();
+    if (event.kind != SunEventKind::OnDate) {
+      const std::string why = event.Known() ? "the Sun rises only after midnight" : SunEventWords(event);
+      throw CalculationError("No sunrise at " + MessageValue(city->name) + " on " + FormatDate(date, "dd/MMM/yyyy") +
+                             ": " + why);
+    }
+    return sunrise;
   };
   if (conversion == Conversion::ToIshtaGhati) {
     const auto moment = ConverterMoment(entry);

@@ -32,6 +32,12 @@ std::optional<ChartFrame> StyleFrame(const std::string& style) {
   return std::nullopt;
 }
 
+// Gulika and Maandi stand last; where no sunrise or sunset bounds the day
+// they are not known and not placed.
+int PlacedBodyCount(const ChartData& chart) {
+  return chart.gulikaMaandiKnown ? kBodyCount : static_cast<int>(Body::Gulika);
+}
+
 // The North drawing: houses counted from the Lagna's sign, the Lagna's long
 // text in house 1, then each other body's short text in its house, entries
 // separated only by their two trailing blanks (the label wraps by itself).
@@ -39,8 +45,10 @@ void FillNorth(const ChartData& chart, ChartCells& cells, ChartWindow& window, s
   window.ShowOnly(ChartFrame::North);
   ChartCellClear(cells, selector);
   const std::int16_t lagna = chart.Rasi(Body::Lagna);
+  const int bodies = PlacedBodyCount(chart);
   for (int b = 1; b < kBodyCount; ++b) {
-    cells.northHouseOfBody[static_cast<size_t>(b - 1)] = HouseFromLagna(lagna, chart.rasi[static_cast<size_t>(b)]);
+    cells.northHouseOfBody[static_cast<size_t>(b - 1)] =
+        b < bodies ? HouseFromLagna(lagna, chart.rasi[static_cast<size_t>(b)]) : std::int16_t{0};
   }
   for (int k = 1; k <= 12; ++k) {
     int sign = k - 1 + lagna;
@@ -49,7 +57,7 @@ void FillNorth(const ChartData& chart, ChartCells& cells, ChartWindow& window, s
     window.northHouseNo.SetCaption(k, std::to_string(sign));
   }
   window.north.Append(1, chart.LongNames[0] + kTwoBlanks);
-  for (int b = 1; b < kBodyCount; ++b) {
+  for (int b = 1; b < bodies; ++b) {
     window.north.Append(cells.northHouseOfBody[static_cast<size_t>(b - 1)],
                         chart.ShortNames[static_cast<size_t>(b)] + kTwoBlanks);
   }
@@ -66,7 +74,7 @@ void FillChart(const ChartData& chart, ChartCells& cells, ChartWindow& window, c
   ChartCellClear(cells, south ? fill.southSelector : fill.eastSelector);
   window.ShowOnly(*frame);
   const std::string kind = south ? fill.southKind : fill.eastKind;
-  for (int b = 0; b < kBodyCount; ++b) {
+  for (int b = 0; b < PlacedBodyCount(chart); ++b) {
     const auto i = static_cast<size_t>(b);
     ChartCellFill(cells, kind, chart.ShortNames[i], chart.rasi[i], chart.longitude[i]);
   }
