@@ -7,6 +7,8 @@
 #include <limits>
 #include <string>
 
+#include "support/test_data.h"
+
 namespace kelvaro {
 namespace {
 
@@ -70,30 +72,15 @@ TEST(Tithi, RowsAtTheirBoundsAndTheirKaranaHalves) {
   }
 }
 
+// The elongations of tests/data/panchanga/tithi_elongations.txt.
 TEST(Tithi, WorkedElongations) {
-  struct Case {
-    const char* why;
-    double moon, sun;
-    TithiExpect expect;
-  } cases[] = {
-      // Equal longitudes: the Sun is not strictly above, elongation 0, row 1.
-      {"new moon exact", 100, 100, {1, "Pratipada", "Bright", "Kintughna"}},
-      // Sun above Moon: Moon 10 + 360 = 370, elongation 20, row 2 (12, 24],
-      // 8 degrees in, past 6: second karana.
-      {"wrap", 10, 350, {2, "Dwitiya", "Bright", "Kaulav"}},
-      // The sample chart: 275.4562 - 88.3176 = 187.1386, row 16 (180, 192],
-      // 187.1386 - 180 = 7.1386 in, past 6: second karana of row 16.
-      {"sample chart", 275.4562, 88.3176, {16, "Pratipada", "Dark", "Kaulava"}},
-      // Sun 6 above Moon 5: 365 - 6 = 359, row 30, 11 in.
-      {"wrap just before new moon", 5, 6, {30, "Amavashya", "Dark", "Naga"}},
-      // Moon 0, Sun 360: Sun above, Moon becomes 360, elongation 0.
-      {"Sun at 360", 0, 360, {1, "Pratipada", "Bright", "Kintughna"}},
-      // Full moon: 270 - 90 = 180, row 15's upper bound, second half.
-      {"full moon exact", 270, 90, {15, "Purnima", "Bright", "Bav"}},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.why);
-    ExpectTithi(TithiAt(c.moon, c.sun), c.expect);
+  const auto rows = testing::TestDataTable("panchanga/tithi_elongations.txt");
+  ASSERT_EQ(rows.size(), 6u);
+  for (const auto& row : rows) {
+    ASSERT_EQ(row.size(), 7u);
+    SCOPED_TRACE(row[6]);
+    const auto no = static_cast<std::int16_t>(std::stoi(row[2]));
+    ExpectTithi(TithiAt(std::stod(row[0]), std::stod(row[1])), {no, row[3].c_str(), row[4].c_str(), row[5].c_str()});
   }
 }
 

@@ -7,6 +7,8 @@
 #include <limits>
 #include <string>
 
+#include "support/test_data.h"
+
 namespace kelvaro {
 namespace {
 
@@ -52,26 +54,16 @@ TEST(Yoga, UpperBoundsAndJustAbove) {
   }
 }
 
+// The sums of tests/data/panchanga/yoga_sums.txt.
 TEST(Yoga, WorkedSums) {
-  struct Case {
-    const char* why;
-    double moon, sun;
-    std::int16_t no;
-    const char* name;
-  } cases[] = {
-      {"0 is the first row's start, included", 0, 0, 1, "Vishkumbha"},
-      {"13.3333333 (13 deg 20 min) is past the cut bound 13.333", 13.3333333, 0, 2, "Preeti"},
-      {"200 + 160 = 360 exactly stays 360", 200, 160, 27, "Vaidhriti"},
-      {"360 + 360 = 720, one fold to 360", 360, 360, 27, "Vaidhriti"},
-      {"300 + 60.5 = 360.5, folds to 0.5", 300, 60.5, 1, "Vishkumbha"},
-      {"sample chart: 275.4562 + 88.3176 = 363.7738 -> 3.7738", 275.4562, 88.3176, 1, "Vishkumbha"},
-      {"250 + 150 = 400 -> 40: just past 39.999", 250, 150, 4, "Saubhagya"},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.why);
-    const clsYoga y = YogaAt(c.moon, c.sun);
-    EXPECT_EQ(y.YogaNo, c.no);
-    EXPECT_EQ(y.YogaName, c.name);
+  const auto rows = testing::TestDataTable("panchanga/yoga_sums.txt");
+  ASSERT_EQ(rows.size(), 7u);
+  for (const auto& row : rows) {
+    ASSERT_EQ(row.size(), 5u);
+    SCOPED_TRACE(row[4]);
+    const clsYoga y = YogaAt(std::stod(row[0]), std::stod(row[1]));
+    EXPECT_EQ(y.YogaNo, std::stoi(row[2]));
+    EXPECT_EQ(y.YogaName, row[3]);
   }
 }
 
