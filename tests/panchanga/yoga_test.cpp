@@ -22,34 +22,21 @@ clsYoga YogaAt(double moon, double sun) {
   return y;
 }
 
-// With the Sun at 0 the sum is the Moon's longitude exactly. Bounds are
-// k * 13.333 (worked in decimal: 13.333, 26.666, ..., 346.658) and 360; each
-// is included, and the next double above it is the next yoga. The first,
-// some middle and the last bounds.
+// The bounds of tests/data/panchanga/yoga_bounds.txt, and the next double
+// above each but the last.
 TEST(Yoga, UpperBoundsAndJustAbove) {
-  struct Case {
-    double upTo;
-    std::int16_t no;
-    const char* name;
-    const char* next;
-  } cases[] = {
-      {13.333, 1, "Vishkumbha", "Preeti"},
-      {26.666, 2, "Preeti", "Ayushmaana"},
-      {39.999, 3, "Ayushmaana", "Saubhagya"},
-      {133.33, 10, "Ganda", "Vriddhi"},
-      {266.66, 20, "Shiva", "Siddha"},
-      {346.658, 26, "Indra", "Vaidhriti"},
-      {360, 27, "Vaidhriti", nullptr},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.upTo);
-    const clsYoga at = YogaAt(c.upTo, 0);
-    EXPECT_EQ(at.YogaNo, c.no);
-    EXPECT_EQ(at.YogaName, c.name);
-    if (c.next != nullptr) {
-      const clsYoga above = YogaAt(Above(c.upTo), 0);
-      EXPECT_EQ(above.YogaNo, c.no + 1);
-      EXPECT_EQ(above.YogaName, c.next);
+  const auto rows = testing::TestDataTable("panchanga/yoga_bounds.txt");
+  ASSERT_EQ(rows.size(), 7u);
+  for (const auto& row : rows) {
+    ASSERT_EQ(row.size(), 4u);
+    SCOPED_TRACE(row[0]);
+    const clsYoga at = YogaAt(std::stod(row[0]), 0);
+    EXPECT_EQ(at.YogaNo, std::stoi(row[1]));
+    EXPECT_EQ(at.YogaName, row[2]);
+    if (!row[3].empty()) {
+      const clsYoga above = YogaAt(Above(std::stod(row[0])), 0);
+      EXPECT_EQ(above.YogaNo, std::stoi(row[1]) + 1);
+      EXPECT_EQ(above.YogaName, row[3]);
     }
   }
 }
