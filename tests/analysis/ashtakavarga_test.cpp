@@ -12,6 +12,7 @@
 
 #include "common/calculation_error.h"
 #include "support/sample_chart.h"
+#include "support/test_data.h"
 
 namespace kelvaro {
 namespace {
@@ -32,43 +33,31 @@ ChartData ChartWithRasis(const std::array<int, 8>& r, int rahu = 1) {
 
 int Cell(const Ashtakavarga& a, int row, int col) { return std::stoi(a.mshAshtaVarga.Text(row, col)); }
 
-// Counted by a separate script straight from the table's text, for Sun 4,
-// Moon 10, Mars 6, Mercury 4, Venus 5, Jupiter 2, Saturn 11, Lagna 12. The
-// Lagna in Pisces takes houses 2 and more across the wrap into Aries.
-TEST(Ashtakavarga, ChartCountedFromTheTable) {
-  constexpr int kExpected[12][11] = {
-      {3, 5, 3, 6, 6, 4, 4, 4, 2, 31, 37}, {5, 6, 4, 4, 5, 7, 3, 5, 3, 34, 42},
-      {4, 4, 3, 6, 5, 4, 6, 4, 4, 32, 40}, {3, 4, 2, 2, 7, 2, 4, 3, 5, 24, 32},
-      {3, 2, 2, 4, 4, 3, 3, 4, 6, 21, 31}, {4, 2, 4, 4, 5, 5, 1, 4, 2, 25, 31},
-      {5, 4, 3, 6, 3, 3, 2, 5, 5, 26, 36}, {3, 5, 4, 5, 4, 6, 2, 5, 3, 29, 37},
-      {4, 5, 5, 7, 5, 5, 3, 6, 2, 34, 42}, {4, 5, 2, 1, 4, 4, 4, 2, 6, 24, 32},
-      {4, 5, 2, 2, 3, 4, 3, 4, 4, 23, 31}, {6, 2, 5, 7, 5, 5, 4, 3, 1, 34, 38},
-  };
+// The grids of tests/data/analysis/ashtakavarga_grids.txt: one chart cell by
+// cell, and the Sun's and Rahu's columns with every contributor in Libra.
+TEST(Ashtakavarga, GridsCountedFromTheTable) {
   const ChartData chart = ChartWithRasis({4, 10, 6, 4, 5, 2, 11, 12}, 3);
   clsStar star;
-  Ashtakavarga a;
+  Ashtakavarga a, libra;
   FillAshtakavarga(chart, star, a);
+  FillAshtakavarga(ChartWithRasis({7, 7, 7, 7, 7, 7, 7, 7}, 7), star, libra);
   ASSERT_EQ(a.mshAshtaVarga.Rows(), 14);
   ASSERT_EQ(a.mshAshtaVarga.Cols(), 12);
-  for (int row = 1; row <= 12; ++row) {
-    EXPECT_EQ(a.mshAshtaVarga.Text(row, 0), chart.RasiNames[static_cast<size_t>(row - 1)]);
-    for (int col = 1; col <= 11; ++col) EXPECT_EQ(Cell(a, row, col), kExpected[row - 1][col - 1]) << row << "," << col;
-  }
   EXPECT_EQ(a.mshAshtaVarga.Text(13, 0), "Total");
-}
-
-// All eight in Libra: the points of a rasi are the number of lists that hold
-// its house from Libra (counted apart: Leo is house 11 in every Sun list but
-// Venus's).
-TEST(Ashtakavarga, AllContributorsInOneRasi) {
-  constexpr std::array<int, 12> kSunColumn = {4, 3, 5, 6, 7, 3, 3, 3, 3, 4, 2, 5};
-  constexpr std::array<int, 12> kRahuColumn = {5, 4, 2, 3, 2, 5, 3, 3, 6, 4, 4, 2};
-  clsStar star;
-  Ashtakavarga a;
-  FillAshtakavarga(ChartWithRasis({7, 7, 7, 7, 7, 7, 7, 7}, 7), star, a);
-  for (int row = 1; row <= 12; ++row) {
-    EXPECT_EQ(Cell(a, row, 1), kSunColumn[static_cast<size_t>(row - 1)]) << row;
-    EXPECT_EQ(Cell(a, row, 9), kRahuColumn[static_cast<size_t>(row - 1)]) << row;
+  const auto rows = testing::TestDataTable("analysis/ashtakavarga_grids.txt");
+  ASSERT_EQ(rows.size(), 24u);
+  for (const auto& row : rows) {
+    const int rasi = std::stoi(row[1]);
+    SCOPED_TRACE(row[0] + " rasi " + row[1]);
+    if (row[0] == "Chart") {
+      ASSERT_EQ(row.size(), 13u);
+      EXPECT_EQ(a.mshAshtaVarga.Text(rasi, 0), chart.RasiNames[static_cast<size_t>(rasi - 1)]);
+      for (int col = 1; col <= 11; ++col) EXPECT_EQ(Cell(a, rasi, col), std::stoi(row[static_cast<size_t>(col) + 1])) << col;
+    } else {
+      ASSERT_EQ(row.size(), 4u);
+      EXPECT_EQ(Cell(libra, rasi, 1), std::stoi(row[2]));
+      EXPECT_EQ(Cell(libra, rasi, 9), std::stoi(row[3]));
+    }
   }
 }
 

@@ -31,53 +31,19 @@ ChartData ChartWith(double lagna, double midHeaven, const std::array<double, 9>&
 
 constexpr std::array<double, 9> kNowhere = {-1, -1, -1, -1, -1, -1, -1, -1, -1};
 
-using Twelve = std::array<double, 12>;
-
-void ExpectLimits(const BhavaLimits& h, const Twelve& start, const Twelve& mid, const Twelve& sandhi) {
-  for (size_t k = 0; k < 12; ++k) {
-    SCOPED_TRACE("house " + std::to_string(k + 1));
-    EXPECT_EQ(h.BhavaStart[k], start[k]);
-    EXPECT_EQ(h.BhavaMid[k], mid[k]);
-    EXPECT_EQ(h.BhavaSandhi[k], sandhi[k]);
+// The limits of tests/data/analysis/bhava_limits.txt: both systems with the
+// midheaven near 0, and the wrap from house 8 to 9 that the rework keeps.
+TEST(Bhava, LimitsWorkedByHand) {
+  const auto rows = testing::TestDataTable("analysis/bhava_limits.txt");
+  ASSERT_EQ(rows.size(), 10u);
+  for (const auto& row : rows) {
+    ASSERT_EQ(row.size(), 16u);
+    SCOPED_TRACE(row[0] + " " + row[1] + " " + row[2] + " " + row[3]);
+    const BhavaLimits h = ComputeBhavaLimits(std::stod(row[0]), std::stod(row[1]), row[2]);
+    const auto& limits = row[3] == "start" ? h.BhavaStart : row[3] == "mid" ? h.BhavaMid : h.BhavaSandhi;
+    for (size_t k = 0; k < 12; ++k) EXPECT_EQ(limits[k], std::stod(row[k + 4])) << "house " << k + 1;
   }
-}
-
-// Lagna 88, midheaven 358: the arc from the midheaven to the Lagna is 90
-// degrees, so both steps are 15. Points 18 to 24 run 358, 373, ... 448
-// unreduced; points 12 to 18 run 268 to 358; the opposite points 88 to 253.
-// The mid points are the even points, the sandhis the odd ones, and each
-// house starts at the sandhi before it. Every figure is a whole number, so
-// the comparison is exact.
-TEST(Bhava, EqualHousesWithTheMidheavenNearZero) {
-  const BhavaLimits h = ComputeBhavaLimits(88, 358, "Equal");
-  EXPECT_EQ(h.BhavaPoints[24], 448);  // the Lagna, left unreduced
-  ExpectLimits(h, {73, 103, 133, 163, 193, 223, 253, 283, 313, 343, 13, 43},
-               {88, 118, 148, 178, 208, 238, 268, 298, 328, 358, 28, 58},
-               {103, 133, 163, 193, 223, 253, 283, 313, 343, 13, 43, 73});
-}
-
-// The same chart reworked: the old mid points become the starts; each new
-// mid point is halfway to the next start; house 10 wraps properly:
-// (358 + 28 + 360) / 2 = 373, reduced to 13; house 12 halves towards the
-// start of house 1: (58 + 88) / 2 = 73.
-TEST(Bhava, NotEqualHousesWithTheMidheavenNearZero) {
-  const BhavaLimits h = ComputeBhavaLimits(88, 358, "Not Equal");
-  ExpectLimits(h, {88, 118, 148, 178, 208, 238, 268, 298, 328, 358, 28, 58},
-               {103, 133, 163, 193, 223, 253, 283, 313, 343, 13, 43, 73},
-               {118, 148, 178, 208, 238, 268, 298, 328, 358, 28, 58, 88});
-}
-
-// Lagna 140, midheaven 50: the old mid points of houses 8 and 9 are 350 and
-// 20. Halfway across 0 degrees would be (350 + 380) / 2 = 365, that is 5;
-// the house 8 step takes 360 less 20 instead: (350 + 340) / 2 = 345.
-TEST(Bhava, HouseEightToNineWrap) {
-  const BhavaLimits equal = ComputeBhavaLimits(140, 50, "Equal");
-  EXPECT_EQ(equal.BhavaMid[7], 350);
-  EXPECT_EQ(equal.BhavaMid[8], 20);
-  const BhavaLimits h = ComputeBhavaLimits(140, 50, "Not Equal");
-  ExpectLimits(h, {140, 170, 200, 230, 260, 290, 320, 350, 20, 50, 80, 110},
-               {155, 185, 215, 245, 275, 305, 335, 345, 35, 65, 95, 125},
-               {170, 200, 230, 260, 290, 320, 350, 20, 50, 80, 110, 140});
+  EXPECT_EQ(ComputeBhavaLimits(88, 358, "Equal").BhavaPoints[24], 448);  // the Lagna, left unreduced
 }
 
 // The two other ends of the rework. Lagna 10, midheaven 280: old mid points
@@ -132,27 +98,14 @@ TEST(Bhava, Normalize360AndReduce12) {
   EXPECT_EQ(Reduce12(1), 1);
 }
 
-// Planets Sun to Ketu at 335, 5, 344.9, 329, 345, 0, 360, 200, 340.
+// The houses of tests/data/analysis/bhava_planets.txt.
 TEST(Bhava, PlanetsInBhavaAtItsConstants) {
   const ChartData c = ChartWith(0, 0, {335, 5, 344.9, 329, 345, 0, 360, 200, 340});
-  const struct {
-    double start, end;
-    const char* names;
-    const char* why;
-  } cases[] = {
-      {329, 345, "Sun Mar Mer Jup Sat Ket Sun Moo Mar Mer Jup Ven Rah Ket",
-       "both constants met: 329-360 for all nine, then 0-345 for all nine, limits included"},
-      {329, 10, "Sun Mar Mer Jup Sat Ket Moo Ven", "across 0: 329-360 then 0-10; 360 and 0 both belong"},
-      {328.99, 10, "", "across 0 but starting below 329: the plain range 328.99-10 holds nothing"},
-      {340, 345.01, "Mar Jup Ket", "an end above 345: the plain range"},
-      {330, 340, "Sun Mar Jup Sat Ket Sun Moo Mer Ven Rah Ket",
-       "a house inside 329-345 still searches 330-360 then 0-340, and names Sun and Ketu twice"},
-      {200, 200, "Rah", "a point: both limits included"},
-      {100, 150, "", "nothing there"},
-  };
-  for (const auto& k : cases) {
-    SCOPED_TRACE(k.why);
-    EXPECT_EQ(PlanetsInBhava(c, k.start, k.end), k.names);
+  const auto rows = testing::TestDataTable("analysis/bhava_planets.txt");
+  ASSERT_EQ(rows.size(), 7u);
+  for (const auto& row : rows) {
+    ASSERT_EQ(row.size(), 3u);
+    EXPECT_EQ(PlanetsInBhava(c, std::stod(row[0]), std::stod(row[1])), row[2]) << row[0] << " to " << row[1];
   }
 }
 

@@ -136,37 +136,6 @@ TEST_F(SampleDasa, SubPeriodsGoToTheSinkOnce) {
   EXPECT_EQ(f.sink.lastRows[0], (BhukthiRow{"Mars", "Mercury", "14/Jul/1965", "07/Jul/1966", "0"}));
 }
 
-// Antra days: the three dasa years multiplied, over 40, times DaysInYear over
-// 365.25, then made whole half to even when added. Sun dasa, Sun bhukti, Sun
-// antra: 216 / 40 = 5.4, 5 days from birth to 19 Jul 1965. Sun dasa, Moon
-// bhukti, Mars antra: 420 / 40 = 10.5, 10 days (the even one); Mercury antra
-// of the same bhukti: 1020 / 40 = 25.5, 26 days. Venus thrice: 8000 / 40 =
-// 200 days; with a 360-day year 200 * 360 / 365.25 = 197.1, 197 days.
-TEST(Dasa, AntraLengths) {
-  struct Case {
-    double daysInYear;
-    size_t index;
-    const char* lords[3];
-    int days;
-  };
-  const Case cases[] = {
-      {365.25, 0, {"Sun", "Sun", "Sun"}, 5},       {365.25, 10, {"Sun", "Moon", "Mars"}, 10},
-      {365.25, 14, {"Sun", "Moon", "Mercury"}, 26}, {365.25, 648, {"Venus", "Venus", "Venus"}, 200},
-      {360, 14, {"Sun", "Moon", "Mercury"}, 25},    {360, 648, {"Venus", "Venus", "Venus"}, 197},
-  };
-  for (const Case& c : cases) {
-    Filled f;
-    Fill(SampleChart(kSampleMoon, c.daysInYear), f);
-    ASSERT_EQ(f.tables.antras.size(), 729U);
-    const DasaPeriod& p = f.tables.antras[c.index];
-    EXPECT_EQ(p.dasaLord, c.lords[0]) << c.index;
-    EXPECT_EQ(p.bhuktiLord, c.lords[1]) << c.index;
-    EXPECT_EQ(p.antraLord, c.lords[2]) << c.index;
-    EXPECT_EQ(DateDiff(Interval::Day, p.start, p.end), c.days) << c.daysInYear << " " << c.index;
-    EXPECT_EQ(p.end.Value() - p.start.Value(), c.days) << "the clock stays";
-  }
-}
-
 // The antras run from birth, one after another, under a section row per
 // bhukti.
 TEST_F(SampleDasa, AntraGrid) {
@@ -204,55 +173,38 @@ TEST(Dasa, YearOf360Days) {
   EXPECT_EQ(f.tables.mshBukti.Text(4, 1), "19/Jul/1967");
 }
 
-TEST(Dasa, MinutesLeftInStar) {
-  struct Case {
-    std::int16_t star;
-    double moon;
-    double minutes;
-    std::int16_t starAfter;
-  };
-  const Case cases[] = {
-      {1, 0.0, 800, 1},                // the very start: the whole star
-      {1, 13.3333333333333, 1, 1},     // 799.99999999999 minutes cut to 799
-      {4, 40.0000001, 800, 4},         // just past Kritika
-      {21, kSampleMoon, 273, 21},      // the sample chart
-      {22, 278.0, 120, 21},            // Abhijit counts as the end of Uttarashada
-      {24, 300.0, 400, 23},            // Dhanishtha, one below its number
-      {28, 359.99, 1, 27},             // 21599.4 minutes cut to 21599
-  };
-  for (const Case& c : cases) {
-    std::int16_t star = c.star;
-    EXPECT_EQ(MinutesLeftInStar(star, c.moon), c.minutes) << c.moon;
-    EXPECT_EQ(star, c.starAfter) << c.moon;
-  }
-}
-
-// Other Moons: at the start of Ashwini the balance is all of Kethu's seven
-// years, and the first dasa starts at birth, so no sub-period is dropped; in
-// Abhijit (star 22) the Sun's 120 minutes leave 0.9 years = 10 months 24 days;
-// in Dhanishtha Mars's 400 minutes leave 3.5 years.
-TEST(Dasa, OtherMoons) {
-  struct Case {
-    double moon;
-    const char* label;
-    const char* dasaEnd;
-    size_t subPeriods;
-    const char* firstSubPeriod;
-    const char* firstSubEnd;
-  };
-  const Case cases[] = {
-      {0.0, "Dasa Balance at Birth :Dasa  Kethu7-0- 0", "14/Jul/1972", 81, "Ketu Dasa", "10/Dec/1965"},
-      {278.0, "Dasa Balance at Birth :Dasa  Sun0-10- 24", "08/Jun/1966", 73, "Venus Dasa", "06/Jun/1966"},
-      {300.0, "Dasa Balance at Birth :Dasa  Mars3-6- 0", "12/Jan/1969", 77, "Mercury Dasa", "07/Jul/1966"},
-  };
-  for (const Case& c : cases) {
+// The rows of tests/data/analysis/dasa_rows.txt: minutes left in the Moon's
+// star, the first periods on other Moons, and antra lengths.
+TEST(Dasa, WorkedRows) {
+  const auto rows = testing::TestDataTable("analysis/dasa_rows.txt");
+  ASSERT_EQ(rows.size(), 16u);
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row[0] + " " + row[1] + " " + row[2]);
     Filled f;
-    Fill(SampleChart(c.moon), f);
-    EXPECT_EQ(f.tables.Lab_DasaBalanceV, c.label);
-    EXPECT_EQ(f.tables.mshDasa.Text(1, 2), c.dasaEnd) << c.moon;
-    EXPECT_EQ(f.tables.bhuktis.size(), c.subPeriods) << c.moon;
-    EXPECT_EQ(f.tables.mshBukti.Text(1, 0), c.firstSubPeriod) << c.moon;
-    EXPECT_EQ(f.tables.mshBukti.Text(1, 2), c.firstSubEnd) << c.moon;
+    if (row[0] == "MinutesLeftInStar") {
+      ASSERT_EQ(row.size(), 5u);
+      auto star = static_cast<std::int16_t>(std::stoi(row[1]));
+      EXPECT_EQ(MinutesLeftInStar(star, std::stod(row[2])), std::stod(row[3]));
+      EXPECT_EQ(star, std::stoi(row[4]));
+    } else if (row[0] == "OtherMoon") {
+      ASSERT_EQ(row.size(), 7u);
+      Fill(SampleChart(std::stod(row[1])), f);
+      EXPECT_EQ(f.tables.Lab_DasaBalanceV, row[2]);
+      EXPECT_EQ(f.tables.mshDasa.Text(1, 2), row[3]);
+      EXPECT_EQ(f.tables.bhuktis.size(), std::stoul(row[4]));
+      EXPECT_EQ(f.tables.mshBukti.Text(1, 0), row[5]);
+      EXPECT_EQ(f.tables.mshBukti.Text(1, 2), row[6]);
+    } else {
+      ASSERT_EQ(row[0], "Antra");
+      ASSERT_EQ(row.size(), 7u);
+      Fill(SampleChart(kSampleMoon, std::stod(row[1])), f);
+      ASSERT_EQ(f.tables.antras.size(), 729U);
+      const DasaPeriod& p = f.tables.antras[std::stoul(row[2])];
+      EXPECT_EQ((std::vector<std::string>{p.dasaLord, p.bhuktiLord, p.antraLord}),
+                (std::vector<std::string>{row[3], row[4], row[5]}));
+      EXPECT_EQ(DateDiff(Interval::Day, p.start, p.end), std::stoi(row[6]));
+      EXPECT_EQ(p.end.Value() - p.start.Value(), std::stoi(row[6])) << "the clock stays";
+    }
   }
 }
 

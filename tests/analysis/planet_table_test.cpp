@@ -58,45 +58,6 @@ TEST(SubLords, BandsEndAtTheirLimitInclusive) {
   }
 }
 
-TEST(SubLords, TableChosenByRasiAndReadAtTheDegreesInRasi) {
-  const ChartData chart = SanskritNames();
-  struct Case {
-    int rasi;
-    double longitude;
-    const char* lord;
-  };
-  // 3 degrees into a rasi: Venus, Jupiter, Venus, Rahu by tables 1 to 4.
-  const Case cases[] = {
-      {1, 3, "Sukra"},   {2, 33, "Guru"},   {3, 63, "Sukra"},   {4, 93, "Rahu"},
-      {10, 273, "Guru"}, {12, 333, "Rahu"}, {0, 3, ""},         {13, 3, ""},
-  };
-  for (const Case& c : cases) EXPECT_EQ(SubLordOf(chart, c.rasi, c.longitude), c.lord) << c.rasi;
-}
-
-TEST(RetroMarkTest, PlanetsAndNodesWithoutZeroAllowance) {
-  struct Case {
-    double today, nextDay;
-    int kind;
-    const char* mark;
-  };
-  const Case cases[] = {
-      {10, 11, 1, ""},          // direct
-      {10, 9.5, 1, " (R)"},     // backward
-      {10, 10, 1, " (R)"},      // standing still counts as not greater
-      {359, 0.2, 1, " (R)"},    // Pisces into Aries reads as backward
-      {0.2, 359.9, 1, ""},      // and backward out of Aries reads as direct
-      {48.3, 48.2, 2, ""},      // a node running backward, as it normally does
-      {48.3, 48.4, 2, " (R)"},  // a node running direct
-      {48.3, 48.3, 2, ""},
-      {0.1, 359.9, 2, " (R)"},
-      {10, 9, 0, ""},
-      {10, 11, 3, ""},
-  };
-  for (const Case& c : cases) {
-    EXPECT_EQ(RetroMark(c.today, c.nextDay, c.kind), c.mark) << c.today << " " << c.nextDay << " kind " << c.kind;
-  }
-}
-
 // A planet table with only the degrees texts of Sun to Saturn (rows 2 to 8).
 Grid DegreesGrid(const std::vector<std::string>& sunToSaturn) {
   Grid g("mshNirayana");
@@ -138,65 +99,36 @@ TEST(Karakas, EqualTextsBothTakeTheLaterRank) {
             (std::vector<std::string>{"Matri", "Atma", "Amatya", "Puttra", "Gnati", "Matri", "Dara"}));
 }
 
-TEST(Avasthas, SortedStarNumberSqueezesOutAbhijit) {
+// The rows of tests/data/analysis/planet_table_rules.txt, each against its
+// function: the sub lord's table, the retrograde mark, the avastha's factors
+// and names, and avasthas worked by hand.
+TEST(PlanetTableRules, WorkedRows) {
+  const ChartData chart = SanskritNames();
   clsStar star;
-  struct Case {
-    double longitude;
-    int number;
-  };
-  const Case cases[] = {
-      {0.5, 1},   {100, 8},   {266.0, 20}, {275, 21},  // Uttarashada, star 21
-      {278, 21},  // Uttarashada - Abijit, star 22
-      {281, 22},  // Shravana, star 23
-      {290, 22},  {359.9, 27},
-  };
-  for (const Case& c : cases) EXPECT_EQ(SortedStarNumber(star, c.longitude), c.number) << c.longitude;
-}
-
-TEST(Avasthas, OrdinalNavamsaAndNames) {
-  EXPECT_EQ(PlanetOrdinal("Sun"), 1);
-  EXPECT_EQ(PlanetOrdinal("Jupiter"), 5);  // Jupiter before Venus here
-  EXPECT_EQ(PlanetOrdinal("Venus"), 6);
-  EXPECT_EQ(PlanetOrdinal("Kethu"), 9);
-  EXPECT_EQ(PlanetOrdinal("Ketu"), 0);
-  EXPECT_EQ(PlanetOrdinal("Asc"), 0);
-
-  struct Case {
-    double degrees;
-    int navamsa;
-  };
-  const Case cases[] = {
-      {0, 1},  {3.33333333333333, 1}, {Above(3.33333333333333), 2}, {10, 3}, {Above(10), 4},
-      {26.6666666666667, 8}, {30, 9}, {30.5, 0},
-  };
-  for (const Case& c : cases) EXPECT_EQ(NavamsaInRasi(c.degrees), c.navamsa) << c.degrees;
-
-  EXPECT_EQ(AvasthaName(1), "Sayana");
-  EXPECT_EQ(AvasthaName(6), "Aagamana");
-  EXPECT_EQ(AvasthaName(12), "Nidra");
-  EXPECT_EQ(AvasthaName(0), "");
-  EXPECT_EQ(AvasthaName(13), "");
-}
-
-TEST(Avasthas, WorkedByHand) {
-  clsStar star;
-  // Jupiter at 100: Pushya, star 8; ordinal 5; 10 degrees in Cancer is on the
-  // limit of navamsa 3. Moon at 290: Shravana, star 23, sorted 22.
-  // 8 * 5 * 3 + 22 + ishta + Lagna rasi.
-  struct Case {
-    const char* name;
-    double ishta;
-    std::int16_t lagnaRasi;
-    const char* avastha;
-  };
-  const Case cases[] = {
-      {"Jupiter", 20.5, 7, "Sayana"},     // 120 + 22 + 20 (half to even) + 7 = 169, 169 mod 12 = 1
-      {"Jupiter", 21.5, 7, "Netrapani"},  // 120 + 22 + 22 + 7 = 171, remainder 3
-      {"Jupiter", 20.0, 6, "Nidra"},      // 168, remainder 0 counts as 12
-      {"Gulika", 20.0, 7, "Sayana"},      // ordinal 0: 0 + 22 + 20 + 7 = 49, remainder 1
-  };
-  for (const Case& c : cases) {
-    EXPECT_EQ(SayanadiAvastha(star, 100, c.name, 290, c.lagnaRasi, c.ishta), c.avastha) << c.name << " " << c.ishta;
+  const auto rows = testing::TestDataTable("analysis/planet_table_rules.txt");
+  ASSERT_EQ(rows.size(), 49u);
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row[0] + " " + row[1]);
+    ASSERT_GE(row.size(), 3u);
+    const std::string& expected = row.back();
+    if (row[0] == "SubLordOf") {
+      EXPECT_EQ(SubLordOf(chart, std::stoi(row[1]), std::stod(row[2])), expected);
+    } else if (row[0] == "RetroMark") {
+      EXPECT_EQ(RetroMark(std::stod(row[1]), std::stod(row[2]), std::stoi(row[3])), expected);
+    } else if (row[0] == "SortedStarNumber") {
+      EXPECT_EQ(SortedStarNumber(star, std::stod(row[1])), std::stoi(expected));
+    } else if (row[0] == "PlanetOrdinal") {
+      EXPECT_EQ(PlanetOrdinal(row[1]), std::stoi(expected));
+    } else if (row[0] == "NavamsaInRasi") {
+      const double degrees = row[2] == "above" ? Above(std::stod(row[1])) : std::stod(row[1]);
+      EXPECT_EQ(NavamsaInRasi(degrees), std::stoi(expected));
+    } else if (row[0] == "AvasthaName") {
+      EXPECT_EQ(AvasthaName(std::stoi(row[1])), expected);
+    } else {
+      ASSERT_EQ(row[0], "SayanadiAvastha");
+      const auto lagnaRasi = static_cast<std::int16_t>(std::stoi(row[3]));
+      EXPECT_EQ(SayanadiAvastha(star, 100, row[1], 290, lagnaRasi, std::stod(row[2])), expected);
+    }
   }
 }
 

@@ -24,6 +24,7 @@
 #include "common/calculation_error.h"
 #include "common/date_text.h"
 #include "panchanga/lunar_calendar.h"
+#include "support/moment_text.h"
 #include "support/test_data.h"
 #include "support/year_table.h"
 
@@ -61,53 +62,23 @@ struct OneRun {
 
 OleDate At(int y, int mo, int d, int h, int mi) { return OleDate::FromParts(y, mo, d, h, mi); }
 
-TEST(LunarCalendar, SignsByThirtyDegreeRows) {
-  const struct {
-    double longitude;
-    const char* sign;
-    const char* before;
-  } cases[] = {
-      {0, "ARIES", "PISCES"},          {30, "ARIES", "PISCES"},        {30.000001, "TAURUS", "ARIES"},
-      {255, "SAGITARIUS", "SCORPIO"}, {300, "CAPRICON", "SAGITARIUS"},
-      {330, "AQUARIUS", "CAPRICON"},  {359.9, "PISCES", "AQUARIUS"},   {360, "PISCES", "AQUARIUS"},
-      {-0.001, "", ""},               {360.001, "", ""},
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(SignOfSun(c.longitude), c.sign) << c.longitude;
-    EXPECT_EQ(SignBeforeSun(c.longitude), c.before) << c.longitude;
-  }
-}
-
-TEST(LunarCalendar, MonthNamesByKindAndSign) {
-  const struct {
-    const char* kind;
-    const char* sign;
-    const char* month;
-  } cases[] = {
-      {"purnima", "PISCES", "Chaitra"},   {"Purnima", "aries", "Vaisakha"},     {"PURNIMA", "Gemini", "Ashadha"},
-      {"purnima", "LIBRA", "Karttika"},   {"amavasya", "LIBRA", "Kartikka"},    {"Amavasya", "SAGITARIUS", "Pausha"},
-      {"amavasya", "CAPRICON", "Magha"},  {"amavasya", "aquarius", "Phalguna"},
-      {"Amavashya", "LIBRA", ""},  // the tithi's spelling is not a kind
-      {"purnima", "SAGITTARIUS", ""},  // only the stored spelling
-      {"purnima", "", ""},
-  };
-  for (const auto& c : cases) EXPECT_EQ(LunarMonthName(c.kind, c.sign), c.month) << c.kind << " " << c.sign;
-}
-
-TEST(LunarCalendar, YearNameOfAMonth) {
-  const MapYearTable seed = SeedYearTable();  // 2014 is row 28 "Jaya", 2015 row 29 "Manmatha"
-  const struct {
-    const char* month;
-    int y, mo;
-    const char* year;
-  } cases[] = {
-      {"Chaitra", 2015, 3, "Manmatha"},    {"SRAVANA", 2015, 1, "Manmatha"},  {"Magha", 2015, 2, "Jaya"},
-      {"Magha", 2015, 5, "Manmatha"},      {"Phalguna", 2015, 4, "Jaya"},     {"karttikka", 2015, 4, "Jaya"},
-      {"Kartika", 2015, 5, "Manmatha"},    {"Kartikka", 2015, 1, "Jaya"},     {"Karttika", 2015, 12, "Manmatha"},
-      {"Adhika", 2015, 5, ""},             {"", 2015, 5, ""},
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(LunarYearName(At(c.y, c.mo, 10, 12, 0), c.month, seed), c.year) << c.month << " " << c.mo;
+// The rows of tests/data/panchanga/lunar_names.txt, each against its function.
+TEST(LunarCalendar, SignsMonthsAndYearNames) {
+  const MapYearTable seed = SeedYearTable();
+  const auto rows = kelvaro::testing::TestDataTable("panchanga/lunar_names.txt");
+  ASSERT_EQ(rows.size(), 32u);
+  for (const auto& row : rows) {
+    ASSERT_EQ(row.size(), 4u);
+    SCOPED_TRACE(row[0] + " " + row[1] + " " + row[2]);
+    if (row[0] == "SignOfSun") {
+      EXPECT_EQ(SignOfSun(std::stod(row[1])), row[2]);
+      EXPECT_EQ(SignBeforeSun(std::stod(row[1])), row[3]);
+    } else if (row[0] == "LunarMonthName") {
+      EXPECT_EQ(LunarMonthName(row[1], row[2]), row[3]);
+    } else {
+      ASSERT_EQ(row[0], "LunarYearName");
+      EXPECT_EQ(LunarYearName(kelvaro::testing::MomentOf(row[2]), row[1], seed), row[3]);
+    }
   }
 }
 

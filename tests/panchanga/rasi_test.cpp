@@ -7,6 +7,8 @@
 #include <limits>
 #include <string>
 
+#include "support/test_data.h"
+
 namespace kelvaro {
 namespace {
 
@@ -21,45 +23,19 @@ clsRasi RasiAt(double position, const char* language) {
   return r;
 }
 
-// Sign upper bounds, included, and the next double above, in both languages;
-// the first sign reaches to 30.01. The half, worked by hand: 30 comes off
-// once, then again while the rest is above 30; a rest of at most 15 is half 1.
-// At 30k (k >= 2) the rest stops at exactly 30: half 2. Just above 30k it is
-// a hair above 0: half 1.
+// The rows of tests/data/panchanga/rasi_bounds.txt, in both languages.
 TEST(Rasi, SignBoundsAndHalves) {
-  struct Case {
-    double position;
-    std::int16_t no;
-    const char* sanskrit;
-    const char* english;
-    std::int16_t half;
-  } cases[] = {
-      {0, 1, "Mesha", "Aries", 1},
-      {15, 1, "Mesha", "Aries", 1},  // rest -15: the first sign has no second half
-      {30, 1, "Mesha", "Aries", 1},  // rest 0
-      {30.005, 1, "Mesha", "Aries", 1},
-      {30.01, 1, "Mesha", "Aries", 1},  // 30.01 - 30 = 0.01
-      {Above(30.01), 2, "Vrishaba", "Taurus", 1},
-      {45.0, 2, "Vrishaba", "Taurus", 1},  // rest 15, included in half 1
-      {Above(45.0), 2, "Vrishaba", "Taurus", 2},
-      {45.5, 2, "Vrishaba", "Taurus", 2},  // rest 15.5
-      {60, 2, "Vrishaba", "Taurus", 2},    // rest 30, not above 30: stays 30
-      {Above(60), 3, "Mithuna", "Gemini", 1},
-      {180, 6, "Kanya", "Virgo", 2},
-      {Above(180), 7, "Thula", "Libra", 1},
-      {330, 11, "Khumba", "Aquarius", 2},
-      {Above(330), 12, "Meena", "Pisces", 1},
-      {345, 12, "Meena", "Pisces", 1},    // 315 -> ... -> 15
-      {359.9, 12, "Meena", "Pisces", 2},  // 329.9 -> ... -> 29.9 (inexact, but well clear of 15)
-      {360, 12, "Meena", "Pisces", 2},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.position);
+  const auto rows = testing::TestDataTable("panchanga/rasi_bounds.txt");
+  ASSERT_EQ(rows.size(), 16u);
+  for (const auto& row : rows) {
+    ASSERT_EQ(row.size(), 6u);
+    SCOPED_TRACE(row[0] + " " + row[1]);
+    const double position = row[1] == "above" ? Above(std::stod(row[0])) : std::stod(row[0]);
     for (const char* language : {"Sanskrit", "English"}) {
-      const clsRasi r = RasiAt(c.position, language);
-      EXPECT_EQ(r.RasiNo, c.no);
-      EXPECT_EQ(r.RasiName, std::string(language) == "English" ? c.english : c.sanskrit);
-      EXPECT_EQ(r.RasiHalf, c.half);
+      const clsRasi r = RasiAt(position, language);
+      EXPECT_EQ(r.RasiNo, std::stoi(row[2]));
+      EXPECT_EQ(r.RasiName, std::string(language) == "English" ? row[4] : row[3]);
+      EXPECT_EQ(r.RasiHalf, std::stoi(row[5]));
     }
   }
 }

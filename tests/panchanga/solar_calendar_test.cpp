@@ -10,11 +10,14 @@
 #include <map>
 #include <sstream>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "astronomy/find_sunrise.h"
 #include "astronomy/find_sunset.h"
 #include "common/date_text.h"
 #include "panchanga/solar_calendar.h"
+#include "support/moment_text.h"
 #include "support/test_data.h"
 #include "support/year_table.h"
 
@@ -22,12 +25,22 @@ namespace kelvaro {
 namespace {
 
 using testing::FixedDay;
+using testing::MomentOf;
 using testing::MapYearTable;
 using testing::SeedYearTable;
 
 std::string Text(OleDate moment) { return FormatDate(moment, "DD/MM/YYYY HH:NN"); }
 
 const OleDate kToday = OleDate::FromParts(2024, 1, 1);
+
+// The rows of one kind in tests/data/panchanga/solar_calendar_rows.txt.
+std::vector<std::vector<std::string>> RowsOf(const std::string& kind) {
+  std::vector<std::vector<std::string>> rows;
+  for (auto& row : kelvaro::testing::TestDataTable("panchanga/solar_calendar_rows.txt")) {
+    if (row[0] == kind) rows.push_back(std::move(row));
+  }
+  return rows;
+}
 
 // 2000 on days of fixed length, seed row 14 ("Vikrama": DayVal 3, YearRemain
 // 0.7071). f = 0.7071 + 0.7609 = 1.468: weekday 1 + 3 + 1 = 5, Thursday,
@@ -42,18 +55,11 @@ TEST(SolarCalendar, MonthStartsOfTwoThousandOnFixedDays) {
   EXPECT_EQ(Text(start->moment), "13/04/2000 06:00");
   EXPECT_NEAR(start->fraction, 0.468, 1e-12);
   const SolarMonthStarts months = SolarMonthsOf(*start, FixedDay);
-  const struct {
-    const char* name;
-    const char* start;
-  } expected[] = {
-      {"Chaitra", "13/04/2000 06:00"},    {"Vaisakha", "14/05/2000 06:00"}, {"Jyeshtha", "15/06/2000 06:00"},
-      {"Ashadha", "16/07/2000 06:00"},    {"Sravana", "17/08/2000 06:00"},  {"Bhadrapada", "17/09/2000 06:00"},
-      {"Asvina", "17/10/2000 06:00"},     {"Karttika", "16/11/2000 06:00"}, {"Margasira", "16/12/2000 06:00"},
-      {"Pausha", "14/01/2001 06:00"},     {"Magha", "13/02/2001 06:00"},    {"Phalguna", "14/03/2001 06:00"},
-  };
+  const auto expected = RowsOf("MonthStart");
+  ASSERT_EQ(expected.size(), 12u);
   for (size_t i = 0; i < 12; ++i) {
-    EXPECT_EQ(months.names[i], expected[i].name) << i + 1;
-    EXPECT_EQ(Text(months.starts[i]), expected[i].start) << expected[i].name;
+    EXPECT_EQ(months.names[i], expected[i][2]) << i + 1;
+    EXPECT_EQ(Text(months.starts[i]), expected[i][3]) << expected[i][2];
   }
 }
 
@@ -122,32 +128,13 @@ TEST(SolarCalendar, SolarDayCountsSunrisesAndIsNeverZero) {
   }
 }
 
-TEST(SolarCalendar, KaliyugaYearAcrossPeriodAnchors) {
-  const struct {
-    int y, mo, d;
-    int year;
-  } cases[] = {
-      {1865, 12, 31, 0},    {1866, 1, 1, 4967},  {1925, 12, 31, 5026}, {1926, 1, 1, 5027}, {1965, 4, 13, 5066},
-      {1985, 12, 31, 5086}, {1986, 1, 1, 5087},  {2045, 12, 31, 5146}, {2046, 1, 1, 5147}, {2100, 7, 1, 5201},
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(KaliyugaYearOf(OleDate::FromParts(c.y, c.mo, c.d, 23, 59)), c.year) << c.y << "-" << c.mo << "-" << c.d;
-  }
-}
-
-TEST(SolarCalendar, KaliDaysCountFromTheDateOrigin) {
-  const struct {
-    int y, mo, d;
-    std::int32_t days;
-  } cases[] = {
-      {1899, 12, 30, 1790030},  // the origin 1 / 1 / 1800 is 48 s into this day
-      {1899, 12, 29, 1790029},
-      {1965, 7, 14, 1813967},
-      {2024, 1, 1, 1835322},
-  };
-  for (const auto& c : cases) {
-    EXPECT_EQ(KaliDays(OleDate::FromParts(c.y, c.mo, c.d, 10, 0)), c.days) << c.y;
-  }
+TEST(SolarCalendar, KaliyugaYearsAndDays) {
+  const auto years = RowsOf("KaliyugaYear");
+  ASSERT_EQ(years.size(), 10u);
+  for (const auto& row : years) EXPECT_EQ(KaliyugaYearOf(MomentOf(row[1])), std::stoi(row[2])) << row[1];
+  const auto days = RowsOf("KaliDays");
+  ASSERT_EQ(days.size(), 4u);
+  for (const auto& row : days) EXPECT_EQ(KaliDays(MomentOf(row[1])), std::stoi(row[2])) << row[1];
 }
 
 TEST(SolarCalendar, YearNamesAndTheirLimits) {
@@ -171,26 +158,17 @@ TEST(SolarCalendar, SampleChartAtHyderabad) {
   const CalendarPlace hyderabad{"N", 17, 20, "E", 78, 30, 5.5, "E"};
   const SunTimesOfDate sunTimes = SunTimesAt(rise, set, hyderabad);
   SolarCalendar calendar(seed);
-  const struct {
-    int y, mo, d, h, mi;
-    const char* text;
-    const char* monthStartDate;
-    int length;
-    int kaliyuga;
-  } cases[] = {
-      {1965, 7, 14, 14, 15, "30  /  Jyeshtha  /  Vishvavasu", "15/06/1965", 31, 5066},
-      {2000, 3, 1, 12, 0, "18  /  Magha  /  Pramathi", "13/02/2000", 30, 5100},
-      {2000, 4, 13, 12, 0, "1  /  Chaitra  /  Vikrama", "13/04/2000", 31, 5101},
-  };
-  for (const auto& c : cases) {
-    const OleDate moment = OleDate::FromParts(c.y, c.mo, c.d, c.h, c.mi);
-    const SolarDate date = calendar.SolarDateOf(moment, kToday, sunTimes);
-    EXPECT_EQ(SolarDateText(date), c.text) << c.y;
-    EXPECT_EQ(FormatDate(date.monthStart, "DD/MM/YYYY"), c.monthStartDate) << c.y;
+  const auto rows = RowsOf("Hyderabad");
+  ASSERT_EQ(rows.size(), 3u);
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row[1]);
+    const SolarDate date = calendar.SolarDateOf(MomentOf(row[1]), kToday, sunTimes);
+    EXPECT_EQ(SolarDateText(date), row[2]);
+    EXPECT_EQ(FormatDate(date.monthStart, "DD/MM/YYYY"), row[3]);
     // Every month starts at a sunrise of the place.
-    EXPECT_EQ(date.monthStart, SunriseOf(date.monthStart, sunTimes)) << c.y;
-    EXPECT_EQ(date.monthLength, c.length) << c.y;
-    EXPECT_EQ(date.kaliyugaYear, c.kaliyuga) << c.y;
+    EXPECT_EQ(date.monthStart, SunriseOf(date.monthStart, sunTimes));
+    EXPECT_EQ(date.monthLength, std::stoi(row[4]));
+    EXPECT_EQ(date.kaliyugaYear, std::stoi(row[5]));
   }
 }
 

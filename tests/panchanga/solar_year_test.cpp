@@ -12,6 +12,7 @@
 #include "astronomy/find_sunset.h"
 #include "common/date_text.h"
 #include "panchanga/solar_year.h"
+#include "support/test_data.h"
 #include "support/year_table.h"
 
 namespace kelvaro {
@@ -33,31 +34,18 @@ TEST(SolarYear, WeekdayNamesAndYearNumbers) {
   for (const auto& c : cases) EXPECT_EQ(KaliyugaYearNumber(c.year), c.number) << c.year;
 }
 
+// The candidates and fractions of tests/data/panchanga/solar_year_starts.txt.
 TEST(SolarYear, CandidateAndFractionRules) {
-  // 2000, Yearno 14, period 1986-2045: f = YearRemain + 0.7609, weekday sum
-  // Int(f) + DayVal + 1. 12 April 2000 was a Wednesday (4).
-  struct Case {
-    double remain;
-    int dayVal;
-    int day, hour;  // expected year start: that April day's sunrise (06:00)
-    const char* why;
-  } cases[] = {
-      {0.2391, 2, 12, 6, "f = 1.0: Wednesday, 12 April, at sunrise"},
-      {0.2391, 4, 14, 6, "Friday: the third candidate"},
-      {0.2391, 6, 16, 6, "a sum of 8 folds to Sunday: the fifth candidate"},
-      {0.2391, 9, 12, 6, "a sum of 11 folds by 7 to 4: Wednesday"},
-      {0.7391, 2, 12, 6, "f = 1.5: twelve hours after sunrise is 18:00, before sunset"},
-      {0.7791, 2, 12, 6, "f = 1.54: 12 h and 23 min (the fraction of the hours times 24) is 18:23"},
-      {0.7891, 2, 13, 6, "f = 1.55: 13 h and 4 min is 19:04, after sunset: the next sunrise"},
-  };
-  for (const auto& c : cases) {
+  const auto rows = kelvaro::testing::TestDataTable("panchanga/solar_year_starts.txt");
+  ASSERT_EQ(rows.size(), 7u);
+  for (const auto& row : rows) {
+    ASSERT_EQ(row.size(), 4u);
+    SCOPED_TRACE(row[3]);
     MapYearTable t;
-    t.rows[14] = {"Vikrama", 2000, static_cast<std::int16_t>(c.dayVal), c.remain};
+    t.rows[14] = {"Vikrama", 2000, static_cast<std::int16_t>(std::stoi(row[1])), std::stod(row[0])};
     const auto start = FindYearStart(2000, t, FixedDay);
-    ASSERT_TRUE(start.has_value()) << c.why;
-    EXPECT_EQ(FormatDate(*start, "DD/MM/YYYY HH:NN"), FormatDate(OleDate::FromParts(2000, 4, c.day, c.hour, 0),
-                                                                 "DD/MM/YYYY HH:NN"))
-        << c.why;
+    ASSERT_TRUE(start.has_value());
+    EXPECT_EQ(FormatDate(*start, "DD/MM/YYYY HH:NN"), row[2]);
   }
 }
 

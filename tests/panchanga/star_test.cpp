@@ -68,37 +68,24 @@ TEST(Star, PadaDistanceWithTheIrregularConstants) {
 }
 
 // HouseNo is not assigned from above 253.333333333333 to 280: the value of the
-// previous call on the same object stays (the Ashtakavarga reads it so).
+// previous call on the same object stays (the Ashtakavarga reads it so). The
+// steps, in their order, are in tests/data/star/house_carry.txt.
 TEST(Star, HouseNoCarriesOverThroughPoorvashadaAndUttarashada) {
   clsStar s;
   s.PlanetPosition = 10.0;  // Ashwini: 6.66666666666667 < 10 <= 10, pada 3, house 3
   s.findstar();
   ASSERT_EQ(s.HouseNo, 3);
 
-  struct Step {
-    double position;
-    std::int16_t no;
-    std::int16_t quarter;
-    std::int16_t house;
-  } steps[] = {
-      {260.0, 20, 2, 3},                // Poorvashada pada 2 (256.666666666666, 260]
-      {Above(253.333333333333), 20, 1, 3},
-      {266.666666666667, 20, 4, 3},
-      {268.0, 21, 1, 3},                // Uttarashada pada 1
-      {278.0, 22, 4, 3},                // its Abijit part
-      {280.0, 22, 4, 3},
-      {Above(280.0), 23, 1, 1},         // Shravana - Abijit assigns again
-      {262.0, 20, 3, 1},                // and that value carries now
-      {253.333333333333, 19, 4, 4},     // Moola pada 4 assigns 4
-      {275.0, 21, 3, 4},
-  };
-  for (const Step& step : steps) {
-    SCOPED_TRACE(step.position);
-    s.PlanetPosition = step.position;
+  const auto steps = kelvaro::testing::TestDataTable("star/house_carry.txt");
+  ASSERT_EQ(steps.size(), 10u);
+  for (const auto& step : steps) {
+    ASSERT_EQ(step.size(), 5u);
+    SCOPED_TRACE(step[0] + " " + step[1]);
+    s.PlanetPosition = step[1] == "above" ? Above(std::stod(step[0])) : std::stod(step[0]);
     s.findstar();
-    EXPECT_EQ(s.StarNo, step.no);
-    EXPECT_EQ(s.StarQuarter, step.quarter);
-    EXPECT_EQ(s.HouseNo, step.house);
+    EXPECT_EQ(s.StarNo, std::stoi(step[2]));
+    EXPECT_EQ(s.StarQuarter, std::stoi(step[3]));
+    EXPECT_EQ(s.HouseNo, std::stoi(step[4]));
   }
 
   // A fresh object has nothing to carry: 0.

@@ -4,7 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
+
 #include "common/date_text.h"
+#include "support/test_data.h"
 
 namespace kelvaro {
 namespace {
@@ -54,38 +57,22 @@ TEST(TimeConverters, TestsInTheirOrder) {
   EXPECT_FALSE(ValidateConverter(with([](auto& e) { e.hour = "60"; }), Conversion::ToBirthTime).has_value());
 }
 
-TEST(TimeConverters, BirthTimeToIshtaGhati) {
-  struct Case {
-    int hour, minute;
-    const char* text;
-  } cases[] = {
-      {6, 0, "Ishta Ghati : 0:0:0"},     // at sunrise
-      {8, 24, "Ishta Ghati : 6:0:0"},    // 144 minutes: 6 ghatis exactly
-      {14, 15, "Ishta Ghati : 20:37:30"},  // 495 min: 20.625 ghatis, 0.625 * 60 = 37.5 vighatis
-      {6, 1, "Ishta Ghati : 0:2:30"},    // 0.041667 shows as 00.0417: 2.502 vighatis, 0.502 * 60 = 30.12
-      {5, 50, "Ishta Ghati : 59:34:59"},  // 1430 min from the day before's sunrise: 59.5833
-  };
-  for (const auto& c : cases) {
-    const OleDate birth = OleDate::FromParts(1965, 7, 14, c.hour, c.minute);
-    EXPECT_EQ(BirthTimeToIshtaGhati(birth, SixAm).Text(), c.text) << c.hour << ":" << c.minute;
-  }
-}
-
-TEST(TimeConverters, IshtaGhatiToBirthTime) {
+// The rows of tests/data/panchanga/time_converters.txt, both ways.
+TEST(TimeConverters, IshtaGhatiBothWays) {
   const OleDate day = OleDate::FromParts(1965, 7, 14);
-  struct Case {
-    double ghatis, vighatis;
-    const char* when;
-  } cases[] = {
-      {0, 0, "14/07/1965 06:00"},
-      {6, 0, "14/07/1965 08:24"},
-      {6, 30, "14/07/1965 08:36"},   // 30 vighatis are 12 minutes
-      {20, 37, "14/07/1965 14:14"},  // 8 h, 14.8 min: the seconds 48 are added first and stay seconds
-      {60, 0, "15/07/1965 06:00"},   // a whole day: the next day's sunrise
-  };
-  for (const auto& c : cases) {
-    const OleDate t = IshtaGhatiToBirthTime(day, c.ghatis, c.vighatis, SixAm);
-    EXPECT_EQ(FormatDate(t, "DD/MM/YYYY HH:NN"), c.when) << c.ghatis << " " << c.vighatis;
+  const auto rows = testing::TestDataTable("panchanga/time_converters.txt");
+  ASSERT_EQ(rows.size(), 10u);
+  for (const auto& row : rows) {
+    ASSERT_EQ(row.size(), 3u);
+    SCOPED_TRACE(row[0] + " " + row[1]);
+    double first = 0, second = 0;
+    ASSERT_EQ(std::sscanf(row[1].c_str(), "%lf%*[: ]%lf", &first, &second), 2);
+    if (row[0] == "ToIshtaGhati") {
+      const OleDate birth = OleDate::FromParts(1965, 7, 14, static_cast<int>(first), static_cast<int>(second));
+      EXPECT_EQ(BirthTimeToIshtaGhati(birth, SixAm).Text(), row[2]);
+    } else {
+      EXPECT_EQ(FormatDate(IshtaGhatiToBirthTime(day, first, second, SixAm), "DD/MM/YYYY HH:NN"), row[2]);
+    }
   }
   EXPECT_EQ(BirthTimeText(OleDate::FromParts(1965, 7, 15, 6, 0)), "Birth Time : 06:00 AM");
   EXPECT_EQ(BirthTimeText(OleDate::FromParts(1965, 7, 14, 14, 14)), "Birth Time : 02:14 PM");

@@ -2,12 +2,16 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
+#include <map>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include "common/date_text.h"
 #include "common/ole_date.h"
+#include "support/test_data.h"
 
 namespace kelvaro {
 namespace {
@@ -37,96 +41,38 @@ clsTimes Timings(int day, OleDate sunrise, OleDate sunset, OleDate nextSunrise) 
   return t;
 }
 
-// A day of exactly twelve hours (06:00 to 18:00, next sunrise 06:00): eighths
-// of 5400 s (1:30) and thirtieths of 1440 s (0:24). Worked by hand from the
-// almanac's rows: Rahukaal and Gulika count day eighths from 06:00, the night
-// Gulika night eighths from 18:00, Maandi thirtieths. Yamagandam (Jupiter's
-// part) and Gulika kalam (Saturn's part) are published everywhere for such a
-// day; each part lasts 1:30 and Gulika rises as its part ends.
-TEST(Times, WeekdayPeriodsOfATwelveHourDay) {
-  struct Case {
-    const char* weekday;
-    int rahuH, rahuM;
-    int gulikaDayH, gulikaDayM;
-    int gulikaNightDay, gulikaNightH, gulikaNightM;  // day offset: 1 = after midnight
-    int mandiDayH, mandiDayM;
-    int mandiNightDay, mandiNightH, mandiNightM;
-    int yamaH, yamaM, gulikaKalamH, gulikaKalamM;
-  } cases[] = {
-      {"Sunday", 16, 30, 16, 30, 0, 22, 30, 16, 24, 0, 22, 0, 12, 0, 15, 0},      // 7, 7, 3, 26, 10
-      {"Monday", 7, 30, 15, 0, 0, 21, 0, 14, 48, 0, 20, 24, 10, 30, 13, 30},      // 1, 6, 2, 22, 6
-      {"Tuesday", 15, 0, 13, 30, 0, 19, 30, 13, 12, 0, 18, 48, 9, 0, 12, 0},      // 6, 5, 1, 18, 2
-      {"Wednesday", 12, 0, 12, 0, 1, 4, 30, 11, 36, 1, 4, 24, 7, 30, 10, 30},     // 4, 4, 7, 14, 26
-      {"Thursday", 13, 30, 10, 30, 1, 3, 0, 10, 0, 1, 2, 48, 6, 0, 9, 0},         // 5, 3, 6, 10, 22
-      {"Friday", 10, 30, 9, 0, 1, 1, 30, 8, 24, 1, 1, 12, 15, 0, 7, 30},          // 3, 2, 5, 6, 18
-      {"Saturday", 9, 0, 7, 30, 1, 0, 0, 6, 48, 0, 23, 36, 13, 30, 6, 0},         // 2, 1, 4, 2, 14
+// The moments of tests/data/panchanga/times_twelve_hour_day.txt, each on the
+// day of its weekday.
+TEST(Times, NamedMomentsOfATwelveHourDay) {
+  const std::array<std::string, 7> weekdays = {"Sunday",   "Monday", "Tuesday", "Wednesday",
+                                               "Thursday", "Friday", "Saturday"};
+#define KELVARO_MOMENT(name) {#name, &clsTimes::name}
+  const std::map<std::string, OleDate clsTimes::*> moments = {
+      KELVARO_MOMENT(RahukaalStart),      KELVARO_MOMENT(RahukaalEnd),          KELVARO_MOMENT(GulikaRise_Day),
+      KELVARO_MOMENT(GulikaRise_Night),   KELVARO_MOMENT(MandiRise_Day),        KELVARO_MOMENT(MandiRise_Night),
+      KELVARO_MOMENT(yamaghanta2Start_Day), KELVARO_MOMENT(yamaghanta2End_Day), KELVARO_MOMENT(GulikaStart_Day),
+      KELVARO_MOMENT(GulikaEnd_Day),      KELVARO_MOMENT(GulikaStart_Night),    KELVARO_MOMENT(GulikaEnd_Night),
+      KELVARO_MOMENT(vaarvelaStart),      KELVARO_MOMENT(vaarvelaEnd),          KELVARO_MOMENT(kaalvelaStart),
+      KELVARO_MOMENT(kaalvelaEnd),        KELVARO_MOMENT(ArdhayamaStart_Day),   KELVARO_MOMENT(ArdhayamaEnd_Day),
+      KELVARO_MOMENT(Kantaka2Start_Day),  KELVARO_MOMENT(Kantaka2End_Day),      KELVARO_MOMENT(KaalratriStart),
+      KELVARO_MOMENT(KaalratriEnd),       KELVARO_MOMENT(KantakaEnd),           KELVARO_MOMENT(KulikaStart_Day),
+      KELVARO_MOMENT(AmritaGhatiStart),   KELVARO_MOMENT(VishaGhatiEnd),        KELVARO_MOMENT(yamaghanta2Start_Night),
+      KELVARO_MOMENT(ArdhayamaEnd_Night), KELVARO_MOMENT(KulikaEnd_Night),      KELVARO_MOMENT(kaalaRise_Day),
+      KELVARO_MOMENT(kaalaRise_Night),    KELVARO_MOMENT(YamagantaRise_Day),    KELVARO_MOMENT(ArdhaPrakarananRise_Night),
+      KELVARO_MOMENT(VidaghatiRise_Day),
   };
-  for (int i = 0; i < 7; ++i) {
-    const auto& c = cases[i];
-    const int day = kSundayOfJanuary2023 + i;
+#undef KELVARO_MOMENT
+  const auto rows = testing::TestDataTable("panchanga/times_twelve_hour_day.txt");
+  ASSERT_EQ(rows.size(), 104u);
+  for (const auto& row : rows) {
+    ASSERT_EQ(row.size(), 4u);
+    SCOPED_TRACE(row[0] + " " + row[1] + ": " + row[3]);
+    const auto weekday = std::find(weekdays.begin(), weekdays.end(), row[0]) - weekdays.begin();
+    const int day = kSundayOfJanuary2023 + static_cast<int>(weekday);
     const clsTimes t = Timings(day, At(day, 6, 0), At(day, 18, 0), At(day + 1, 6, 0));
-    ASSERT_EQ(t.currentdate.Weekday(), i + 1);
-    EXPECT_EQ(Text(t.RahukaalStart), Text(At(day, c.rahuH, c.rahuM))) << c.weekday;
-    EXPECT_EQ(DateDiff("s", t.RahukaalStart, t.RahukaalEnd), 5400) << c.weekday;
-    EXPECT_EQ(Text(t.GulikaRise_Day), Text(At(day, c.gulikaDayH, c.gulikaDayM))) << c.weekday;
-    EXPECT_EQ(Text(t.GulikaRise_Night), Text(At(day + c.gulikaNightDay, c.gulikaNightH, c.gulikaNightM))) << c.weekday;
-    EXPECT_EQ(Text(t.MandiRise_Day), Text(At(day, c.mandiDayH, c.mandiDayM))) << c.weekday;
-    EXPECT_EQ(Text(t.MandiRise_Night), Text(At(day + c.mandiNightDay, c.mandiNightH, c.mandiNightM))) << c.weekday;
-    EXPECT_EQ(Text(t.yamaghanta2Start_Day), Text(At(day, c.yamaH, c.yamaM))) << c.weekday;
-    EXPECT_EQ(DateDiff("s", t.yamaghanta2Start_Day, t.yamaghanta2End_Day), 5400) << c.weekday;
-    EXPECT_EQ(Text(t.GulikaStart_Day), Text(At(day, c.gulikaKalamH, c.gulikaKalamM))) << c.weekday;
-    EXPECT_EQ(DateDiff("s", t.GulikaStart_Day, t.GulikaEnd_Day), 5400) << c.weekday;
-    EXPECT_EQ(t.GulikaRise_Day, t.GulikaEnd_Day) << c.weekday;
-    EXPECT_EQ(t.GulikaRise_Night, t.GulikaEnd_Night) << c.weekday;
-  }
-}
-
-// The other periods on Sunday and Wednesday, worked by hand from the lords of
-// the eighths. Wednesday's day eighths belong to Mercury, Jupiter, Venus,
-// Saturn, Sun, Moon, Mars; its night's to Sun, Moon, Mars, Mercury, Jupiter,
-// Venus, Saturn. Day 1 is the day after the date.
-TEST(Times, PeriodsFollowTheLordsOfTheEighths) {
-  constexpr int kSun = 0, kWed = 3;
-  const struct {
-    int weekday;
-    const char* name;
-    OleDate clsTimes::*member;
-    int day, h, m;
-  } cases[] = {
-      {kSun, "RahukaalEnd", &clsTimes::RahukaalEnd, 0, 18, 0},  // Gulika and Rahukaal both begin 16:30
-      {kSun, "vaarvelaStart (3)", &clsTimes::vaarvelaStart, 0, 10, 30},
-      {kSun, "vaarvelaEnd (4)", &clsTimes::vaarvelaEnd, 0, 12, 0},
-      {kSun, "kaalvelaStart (4)", &clsTimes::kaalvelaStart, 0, 12, 0},
-      {kSun, "kaalvelaEnd (5)", &clsTimes::kaalvelaEnd, 0, 13, 30},
-      {kSun, "ArdhayamaStart_Day (3)", &clsTimes::ArdhayamaStart_Day, 0, 10, 30},
-      {kSun, "ArdhayamaEnd_Day (4)", &clsTimes::ArdhayamaEnd_Day, 0, 12, 0},
-      {kSun, "Kantaka2Start_Day (2)", &clsTimes::Kantaka2Start_Day, 0, 9, 0},
-      {kSun, "Kantaka2End_Day (3)", &clsTimes::Kantaka2End_Day, 0, 10, 30},
-      {kSun, "KaalratriStart (night 5)", &clsTimes::KaalratriStart, 1, 1, 30},
-      {kSun, "KaalratriEnd (night 6)", &clsTimes::KaalratriEnd, 1, 3, 0},
-      {kSun, "GulikaStart_Night (night 2)", &clsTimes::GulikaStart_Night, 0, 21, 0},
-      {kSun, "GulikaEnd_Night (night 3)", &clsTimes::GulikaEnd_Night, 0, 22, 30},
-      {kWed, "vaarvelaStart (Mercury 1)", &clsTimes::vaarvelaStart, 0, 6, 0},
-      {kWed, "kaalvelaEnd (Jupiter 2)", &clsTimes::kaalvelaEnd, 0, 9, 0},
-      {kWed, "Kantaka2Start_Day (Mars 7)", &clsTimes::Kantaka2Start_Day, 0, 15, 0},
-      {kWed, "KantakaEnd (Mars 7)", &clsTimes::KantakaEnd, 0, 16, 30},
-      {kWed, "KulikaStart_Day (Saturn 4)", &clsTimes::KulikaStart_Day, 0, 10, 30},
-      {kWed, "AmritaGhatiStart (Moon 6)", &clsTimes::AmritaGhatiStart, 0, 13, 30},
-      {kWed, "VishaGhatiEnd (Saturn 4)", &clsTimes::VishaGhatiEnd, 0, 12, 0},
-      {kWed, "KaalratriStart (night Mars 3)", &clsTimes::KaalratriStart, 0, 21, 0},
-      {kWed, "yamaghanta2Start_Night (night Jupiter 5)", &clsTimes::yamaghanta2Start_Night, 1, 0, 0},
-      {kWed, "ArdhayamaEnd_Night (night Mercury 4)", &clsTimes::ArdhayamaEnd_Night, 1, 0, 0},
-      {kWed, "KulikaEnd_Night (night Saturn 7)", &clsTimes::KulikaEnd_Night, 1, 4, 30},
-      {kWed, "kaalaRise_Day (Sun 5)", &clsTimes::kaalaRise_Day, 0, 13, 30},
-      {kWed, "kaalaRise_Night (night Sun 1)", &clsTimes::kaalaRise_Night, 0, 19, 30},
-      {kWed, "YamagantaRise_Day (Jupiter 2)", &clsTimes::YamagantaRise_Day, 0, 9, 0},
-      {kWed, "ArdhaPrakarananRise_Night (night Mercury 4)", &clsTimes::ArdhaPrakarananRise_Night, 1, 0, 0},
-      {kWed, "VidaghatiRise_Day (Venus 3)", &clsTimes::VidaghatiRise_Day, 0, 10, 30},
-  };
-  for (const auto& c : cases) {
-    const int day = kSundayOfJanuary2023 + c.weekday;
-    const clsTimes t = Timings(day, At(day, 6, 0), At(day, 18, 0), At(day + 1, 6, 0));
-    EXPECT_EQ(Text(t.*c.member), Text(At(day + c.day, c.h, c.m))) << c.name << " weekday " << c.weekday;
+    ASSERT_EQ(t.currentdate.Weekday(), weekday + 1);
+    ASSERT_EQ(moments.count(row[1]), 1u);
+    EXPECT_EQ(Text(t.*moments.at(row[1])), row[2]);
   }
 }
 

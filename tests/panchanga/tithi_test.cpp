@@ -7,6 +7,8 @@
 #include <limits>
 #include <string>
 
+#include "support/test_data.h"
+
 namespace kelvaro {
 namespace {
 
@@ -34,66 +36,36 @@ clsTithi TithiAt(double moon, double sun) {
 
 double Above(double x) { return std::nextafter(x, std::numeric_limits<double>::infinity()); }
 
-// Rows of the almanac as printed, with their two karanas each: the first, the
-// full moon and the one after it, and the last two with their fixed karanas.
-struct Row {
-  std::int16_t no;
-  const char* name;
-  const char* side;
-  const char* first;
-  const char* second;
-};
-constexpr Row kRows[] = {
-    {1, "Pratipada", "Bright", "Kintughna", "Bava"},
-    {2, "Dwitiya", "Bright", "Balav", "Kaulav"},
-    {3, "Tritiya", "Bright", "Taitila", "Gar"},
-    {15, "Purnima", "Bright", "Vishti", "Bav"},
-    {16, "Pratipada", "Dark", "Balav", "Kaulava"},
-    {29, "Chaturdashi", "Dark", "Vishti", "Shakuni"},
-    {30, "Amavashya", "Dark", "Chatushpada", "Naga"},
-};
-
-// With the Sun at 0 the elongation is the Moon's longitude exactly, so each
-// row's bounds can be hit to the last bit. Row k (1-based) runs from 12(k-1),
-// excluded (row 1: included), to 12k, included; its first karana to 12(k-1)+6
-// included.
+// The rows of tests/data/panchanga/tithi_rows.txt. With the Sun at 0 the
+// elongation is the Moon's longitude exactly, so each row's bounds can be hit
+// to the last bit. Row k (1-based) runs from 12(k-1), excluded (row 1:
+// included), to 12k, included; its first karana to 12(k-1)+6 included.
 TEST(Tithi, RowsAtTheirBoundsAndTheirKaranaHalves) {
-  for (const Row& row : kRows) {
-    SCOPED_TRACE(row.no);
-    const double start = 12.0 * (row.no - 1);
-    const double middle = start + 6;
-    const double end = 12.0 * row.no;
-    if (row.no > 1) ExpectTithi(TithiAt(Above(start), 0), {row.no, row.name, row.side, row.first});
-    ExpectTithi(TithiAt(middle, 0), {row.no, row.name, row.side, row.first});
-    ExpectTithi(TithiAt(Above(middle), 0), {row.no, row.name, row.side, row.second});
-    ExpectTithi(TithiAt(end, 0), {row.no, row.name, row.side, row.second});
+  const auto rows = testing::TestDataTable("panchanga/tithi_rows.txt");
+  ASSERT_EQ(rows.size(), 7u);
+  for (const auto& row : rows) {
+    ASSERT_EQ(row.size(), 5u);
+    SCOPED_TRACE(row[0]);
+    const auto no = static_cast<std::int16_t>(std::stoi(row[0]));
+    const TithiExpect first{no, row[1].c_str(), row[2].c_str(), row[3].c_str()};
+    const TithiExpect second{no, row[1].c_str(), row[2].c_str(), row[4].c_str()};
+    const double start = 12.0 * (no - 1);
+    if (no > 1) ExpectTithi(TithiAt(Above(start), 0), first);
+    ExpectTithi(TithiAt(start + 6, 0), first);
+    ExpectTithi(TithiAt(Above(start + 6), 0), second);
+    ExpectTithi(TithiAt(12.0 * no, 0), second);
   }
 }
 
+// The elongations of tests/data/panchanga/tithi_elongations.txt.
 TEST(Tithi, WorkedElongations) {
-  struct Case {
-    const char* why;
-    double moon, sun;
-    TithiExpect expect;
-  } cases[] = {
-      // Equal longitudes: the Sun is not strictly above, elongation 0, row 1.
-      {"new moon exact", 100, 100, {1, "Pratipada", "Bright", "Kintughna"}},
-      // Sun above Moon: Moon 10 + 360 = 370, elongation 20, row 2 (12, 24],
-      // 8 degrees in, past 6: second karana.
-      {"wrap", 10, 350, {2, "Dwitiya", "Bright", "Kaulav"}},
-      // The sample chart: 275.4562 - 88.3176 = 187.1386, row 16 (180, 192],
-      // 187.1386 - 180 = 7.1386 in, past 6: second karana of row 16.
-      {"sample chart", 275.4562, 88.3176, {16, "Pratipada", "Dark", "Kaulava"}},
-      // Sun 6 above Moon 5: 365 - 6 = 359, row 30, 11 in.
-      {"wrap just before new moon", 5, 6, {30, "Amavashya", "Dark", "Naga"}},
-      // Moon 0, Sun 360: Sun above, Moon becomes 360, elongation 0.
-      {"Sun at 360", 0, 360, {1, "Pratipada", "Bright", "Kintughna"}},
-      // Full moon: 270 - 90 = 180, row 15's upper bound, second half.
-      {"full moon exact", 270, 90, {15, "Purnima", "Bright", "Bav"}},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.why);
-    ExpectTithi(TithiAt(c.moon, c.sun), c.expect);
+  const auto rows = testing::TestDataTable("panchanga/tithi_elongations.txt");
+  ASSERT_EQ(rows.size(), 6u);
+  for (const auto& row : rows) {
+    ASSERT_EQ(row.size(), 7u);
+    SCOPED_TRACE(row[6]);
+    const auto no = static_cast<std::int16_t>(std::stoi(row[2]));
+    ExpectTithi(TithiAt(std::stod(row[0]), std::stod(row[1])), {no, row[3].c_str(), row[4].c_str(), row[5].c_str()});
   }
 }
 

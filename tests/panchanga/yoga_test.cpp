@@ -7,6 +7,8 @@
 #include <limits>
 #include <string>
 
+#include "support/test_data.h"
+
 namespace kelvaro {
 namespace {
 
@@ -20,60 +22,35 @@ clsYoga YogaAt(double moon, double sun) {
   return y;
 }
 
-// With the Sun at 0 the sum is the Moon's longitude exactly. Bounds are
-// k * 13.333 (worked in decimal: 13.333, 26.666, ..., 346.658) and 360; each
-// is included, and the next double above it is the next yoga. The first,
-// some middle and the last bounds.
+// The bounds of tests/data/panchanga/yoga_bounds.txt, and the next double
+// above each but the last.
 TEST(Yoga, UpperBoundsAndJustAbove) {
-  struct Case {
-    double upTo;
-    std::int16_t no;
-    const char* name;
-    const char* next;
-  } cases[] = {
-      {13.333, 1, "Vishkumbha", "Preeti"},
-      {26.666, 2, "Preeti", "Ayushmaana"},
-      {39.999, 3, "Ayushmaana", "Saubhagya"},
-      {133.33, 10, "Ganda", "Vriddhi"},
-      {266.66, 20, "Shiva", "Siddha"},
-      {346.658, 26, "Indra", "Vaidhriti"},
-      {360, 27, "Vaidhriti", nullptr},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.upTo);
-    const clsYoga at = YogaAt(c.upTo, 0);
-    EXPECT_EQ(at.YogaNo, c.no);
-    EXPECT_EQ(at.YogaName, c.name);
-    if (c.next != nullptr) {
-      const clsYoga above = YogaAt(Above(c.upTo), 0);
-      EXPECT_EQ(above.YogaNo, c.no + 1);
-      EXPECT_EQ(above.YogaName, c.next);
+  const auto rows = testing::TestDataTable("panchanga/yoga_bounds.txt");
+  ASSERT_EQ(rows.size(), 7u);
+  for (const auto& row : rows) {
+    ASSERT_EQ(row.size(), 4u);
+    SCOPED_TRACE(row[0]);
+    const clsYoga at = YogaAt(std::stod(row[0]), 0);
+    EXPECT_EQ(at.YogaNo, std::stoi(row[1]));
+    EXPECT_EQ(at.YogaName, row[2]);
+    if (!row[3].empty()) {
+      const clsYoga above = YogaAt(Above(std::stod(row[0])), 0);
+      EXPECT_EQ(above.YogaNo, std::stoi(row[1]) + 1);
+      EXPECT_EQ(above.YogaName, row[3]);
     }
   }
 }
 
+// The sums of tests/data/panchanga/yoga_sums.txt.
 TEST(Yoga, WorkedSums) {
-  struct Case {
-    const char* why;
-    double moon, sun;
-    std::int16_t no;
-    const char* name;
-  } cases[] = {
-      {"0 is the first row's start, included", 0, 0, 1, "Vishkumbha"},
-      {"13.3335: past the cut bound, though below 13 deg 20 min", 13.3335, 0, 2, "Preeti"},
-      {"13.3333333: 13 deg 20 min is also past 13.333", 13.3333333, 0, 2, "Preeti"},
-      {"200 + 160 = 360 exactly stays 360", 200, 160, 27, "Vaidhriti"},
-      {"360 + 360 = 720, one fold to 360", 360, 360, 27, "Vaidhriti"},
-      {"200 + 170 = 370, folds to 10", 200, 170, 1, "Vishkumbha"},
-      {"300 + 60.5 = 360.5, folds to 0.5", 300, 60.5, 1, "Vishkumbha"},
-      {"sample chart: 275.4562 + 88.3176 = 363.7738 -> 3.7738", 275.4562, 88.3176, 1, "Vishkumbha"},
-      {"250 + 150 = 400 -> 40: just past 39.999", 250, 150, 4, "Saubhagya"},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.why);
-    const clsYoga y = YogaAt(c.moon, c.sun);
-    EXPECT_EQ(y.YogaNo, c.no);
-    EXPECT_EQ(y.YogaName, c.name);
+  const auto rows = testing::TestDataTable("panchanga/yoga_sums.txt");
+  ASSERT_EQ(rows.size(), 7u);
+  for (const auto& row : rows) {
+    ASSERT_EQ(row.size(), 5u);
+    SCOPED_TRACE(row[4]);
+    const clsYoga y = YogaAt(std::stod(row[0]), std::stod(row[1]));
+    EXPECT_EQ(y.YogaNo, std::stoi(row[2]));
+    EXPECT_EQ(y.YogaName, row[3]);
   }
 }
 

@@ -27,12 +27,6 @@ TEST(ChartGeometry, HousesSignsAndFolds) {
   EXPECT_EQ(SignOfLongitude(359.99, 3.33333333333333), 12);
 }
 
-}  // namespace
-}  // namespace kelvaro
-
-namespace kelvaro {
-namespace {
-
 constexpr ChartFrame kStyles[] = {ChartFrame::South, ChartFrame::East, ChartFrame::North};
 
 double ShoelaceArea(const std::vector<ChartPoint>& outline) {

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -86,52 +87,22 @@ const TextChartCells kFullCells = FullCells();
 
 // ---- Reducers ---------------------------------------------------------------
 
+// The rows of tests/data/presentation/reduce_cells.txt, each through its
+// function: the three reducers of a label, and the tightening of blanks
+// (runs of three, in one pass from the left).
 TEST(ReduceCell, EachReducerOnItsLabels) {
   using Reducer = std::string (*)(const std::string&);
-  const Reducer lines = ReduceCellLines, pairs = ReduceCellPairs, blanks = ReduceCellBlanks;
-  const struct {
-    Reducer reduce;
-    std::string label, cell;
-  } cases[] = {
-      {lines, "", ""}, {pairs, "", ""}, {blanks, "", ""},
-      // South Rasi cells: the names of the lines.
-      {lines, "Sun  12.5", "Sun"},
-      {lines, "Sun  12.5\r\nMoo  3.40", "Sun Moo"},
-      {lines, "Asc  28.19\r\nSun  0.5\r\nMer  29.60", "Asc Sun Mer"},
-      {lines, "Mar  \r\nSat  ", "Mar Sat"},  // a Navamsa South cell: names with two trailing blanks
-      {lines, "Sun\nMoo", "Sun"},              // a lone CR or LF is no line break
-      // The East Rasi label joins its bodies with blanks and no CR LF: three characters remain.
-      {lines, "Sun    Moo", "Sun"},
-      {lines, "Sun    Moo    Mar", "Sun"},
-      // North labels split in pairs of blanks.
-      {pairs, "Asc  ", "Asc"},
-      {pairs, "Lagna  Sun  Moo  ", "Lag Sun Moo"},
-      {pairs, "Rah", "Rah"},  // one body with no trailing blanks
-      // Bhava labels split at each blank; two in a row leave an empty piece, which still adds its blank.
-      {blanks, "Asc Sun Moo", "Asc Sun Moo"},
-      {blanks, "Asc ", "Asc"},
-      {blanks, "Sun  Moo", "Sun  Moo"},
-      // Empty pieces inside add blanks, those at the ends do not.
-      {lines, "Sun  1.2\r\n\r\nMoo  3.4", "Sun  Moo"},
-      {lines, "\r\nSun  1.2\r\n", "Sun"},
-      {pairs, "Sun      Moo", "Sun   Moo"},
-      {blanks, "   ", ""},
-      {pairs, "    ", ""},
-  };
-  for (const auto& c : cases) EXPECT_EQ(c.reduce(c.label), c.cell) << '"' << c.label << '"';
-}
-
-// ---- TightenBlanks -----------------------------------------------------------
-
-TEST(TightenBlanks, RunsOfThreeInOnePassFromTheLeft) {
-  EXPECT_EQ(TightenBlanks(""), "");
-  EXPECT_EQ(TightenBlanks("  "), "  ");
-  EXPECT_EQ(TightenBlanks("   "), " ");
-  EXPECT_EQ(TightenBlanks("    "), "  ");
-  EXPECT_EQ(TightenBlanks("     "), "   ");  // what a replacement leaves is not looked at again
-  EXPECT_EQ(TightenBlanks("      "), "  ");
-  EXPECT_EQ(TightenBlanks("Sun   Moo"), "Sun Moo");
-  EXPECT_EQ(TightenBlanks("Sun    Moo  Mar"), "Sun  Moo  Mar");
+  const std::map<std::string, Reducer> functions = {{"ReduceCellLines", ReduceCellLines},
+                                                    {"ReduceCellPairs", ReduceCellPairs},
+                                                    {"ReduceCellBlanks", ReduceCellBlanks},
+                                                    {"TightenBlanks", TightenBlanks}};
+  const auto rows = testing::TestDataTable("presentation/reduce_cells.txt");
+  ASSERT_EQ(rows.size(), 29u);
+  for (const auto& row : rows) {
+    ASSERT_EQ(row.size(), 3u);
+    ASSERT_EQ(functions.count(row[0]), 1u) << row[0];
+    EXPECT_EQ(functions.at(row[0])(testing::Unescaped(row[1])), row[2]) << row[0] << " \"" << row[1] << '"';
+  }
 }
 
 TEST(TightenBlanks, EachRoutineTightensItsCellsFirst) {
@@ -226,10 +197,11 @@ TEST(SouthTextChart, TitleCentredWithHalfToEvenPad) {
   }
 }
 
-TEST(TextCharts, NorthAndEastTitleLineCentredOverTheFrame) {
-  EXPECT_EQ(Lines(NorthTextChart({}, "Rasi", 1), kNorthTextChartMargin)[0], std::string(18, ' ') + "Rasi");
-  EXPECT_EQ(Lines(NorthTextChart({}, "Bhava", 1), kNorthTextChartMargin)[0], std::string(18, ' ') + "Bhava");
-  EXPECT_EQ(Lines(EastTextChart({}, "Navamsa"), kEastTextChartMargin)[0], std::string(18, ' ') + "Navamsa");
+// The goldens hold the North and East title lines, centred half to even
+// ("Rasi" 18.5 to 18 over North, 19.5 to 20 over East); an empty title
+// leaves the margin alone.
+TEST(TextCharts, EmptyTitleLeavesAnEmptyLine) {
+  EXPECT_EQ(Lines(NorthTextChart({}, "", 1), kNorthTextChartMargin)[0], "");
   EXPECT_EQ(Lines(EastTextChart({}, ""), kEastTextChartMargin)[0], "");
 }
 

@@ -47,6 +47,20 @@ class ReportFolder : public ::testing::Test {
 
 const std::string kReport = "Page one\r\n<b>&</b>\r\n\fPage two\r\n";
 
+// Runs a write that must fail, and expects its message to name the file and
+// the system's reason.
+template <class Write>
+void ExpectWriteError(const fs::path& file, const std::string& reason, Write&& write) {
+  try {
+    write();
+    ADD_FAILURE() << "no error; expected " << reason;
+  } catch (const ReportWriteError& e) {
+    const std::string message = e.what();
+    EXPECT_NE(message.find(file.string()), std::string::npos) << message;
+    EXPECT_NE(message.find(reason), std::string::npos) << message;
+  }
+}
+
 // The text file is the text as one print adds its line end; the HTML file
 // wraps that, unescaped, in <pre>.
 TEST_F(ReportFolder, TextAndHtmlFiles) {
@@ -67,14 +81,7 @@ TEST_F(ReportFolder, WritingAgainReplacesTheEarlierFile) {
 
 TEST_F(ReportFolder, MissingFolderRaisesAndNamesTheFile) {
   const fs::path file = folder_ / "no such folder" / "chart.Txt";
-  try {
-    WriteTextReport(file, kReport);
-    FAIL() << "no error";
-  } catch (const ReportWriteError& e) {
-    const std::string message = e.what();
-    EXPECT_NE(message.find(file.string()), std::string::npos) << message;
-    EXPECT_NE(message.find("No such file or directory"), std::string::npos) << message;
-  }
+  ExpectWriteError(file, "No such file or directory", [&] { WriteTextReport(file, kReport); });
   EXPECT_FALSE(fs::exists(file));
   EXPECT_EQ(Entries(), 0u);
 }
@@ -83,14 +90,7 @@ TEST_F(ReportFolder, DirectoryInThePlaceOfTheFileSurvives) {
   const fs::path file = folder_ / "chart.HTML";
   fs::create_directories(file);
   Put(file / "kept.txt", "kept");
-  try {
-    WriteHtmlReport(file, kReport);
-    FAIL() << "no error";
-  } catch (const ReportWriteError& e) {
-    const std::string message = e.what();
-    EXPECT_NE(message.find(file.string()), std::string::npos) << message;
-    EXPECT_NE(message.find("Is a directory"), std::string::npos) << message;
-  }
+  ExpectWriteError(file, "Is a directory", [&] { WriteHtmlReport(file, kReport); });
   EXPECT_TRUE(fs::is_directory(file));
   EXPECT_EQ(Read(file / "kept.txt"), "kept");
   EXPECT_EQ(Entries(), 1u);
@@ -131,17 +131,10 @@ TEST_F(ReportFolder, FailedWriteLeavesTheEarlierFileIntact) {
   rlimit small = old;
   small.rlim_cur = 4096;
   ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
-  std::string message;
-  try {
-    WriteTextReport(file, std::string(100000, 'r'));
-  } catch (const ReportWriteError& e) {
-    message = e.what();
-  }
+  ExpectWriteError(file, "File too large", [&] { WriteTextReport(file, std::string(100000, 'r')); });
   setrlimit(RLIMIT_FSIZE, &old);
   std::signal(SIGXFSZ, oldHandler);
 
-  EXPECT_NE(message.find(file.string()), std::string::npos) << message;
-  EXPECT_NE(message.find("File too large"), std::string::npos) << message;
   EXPECT_EQ(Read(file), earlier);
   EXPECT_EQ(Entries(), 1u);
 }

@@ -2,6 +2,8 @@
 // the 12-hour clock, update and delete, and names that SQL text would break.
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "store/chart_store.h"
 #include "store/country_master.h"
 #include "store/database.h"
@@ -14,6 +16,7 @@ namespace {
 
 using testing::FileBytes;
 using testing::TempFolder;
+using namespace std::string_literals;
 
 class ChartStore : public ::testing::Test {
  protected:
@@ -44,24 +47,12 @@ TEST_F(ChartStore, SaveStoresTheNameWithItsDateAndOpenShowsTheForm) {
 
   const auto o = OpenChart(db_, saved.id);
   ASSERT_TRUE(o.has_value());
-  EXPECT_EQ(o->sno, saved.id);
-  EXPECT_EQ(o->name, "Velnesh");
-  EXPECT_EQ(o->gender, "Male");
-  EXPECT_EQ(o->day, 14);
-  EXPECT_EQ(o->month, "Jul");
-  EXPECT_EQ(o->year, 1965);
-  EXPECT_EQ(o->hour12, 2);
-  EXPECT_TRUE(o->pm);
-  EXPECT_EQ(o->minute, 15);
-  EXPECT_EQ(o->countryId, india_);
-  EXPECT_EQ(o->city, "Hyderabad (A.P)");
-  EXPECT_EQ(o->latText, "17 N 20");
-  EXPECT_EQ(o->lonText, "78 E 30");
-  ASSERT_TRUE(o->zoneSno.has_value());
-  EXPECT_EQ(*o->zoneSno, kolkata_);
-  EXPECT_EQ(o->zoneText, "Asia/Kolkata  (5.5 hrs E)");
-  EXPECT_EQ(o->timeDiff, 5.5);
-  EXPECT_EQ(o->timeDiffEW, "E");
+  EXPECT_EQ(std::tie(o->sno, o->name, o->gender, o->day, o->month, o->year, o->hour12, o->pm, o->minute),
+            std::make_tuple(saved.id, "Velnesh"s, "Male"s, 14, "Jul"s, 1965, 2, true, 15));
+  EXPECT_EQ(std::tie(o->countryId, o->city, o->latText, o->lonText, o->zoneSno, o->zoneText, o->timeDiff,
+                     o->timeDiffEW),
+            std::make_tuple(india_, "Hyderabad (A.P)"s, "17 N 20"s, "78 E 30"s, std::optional(kolkata_),
+                            "Asia/Kolkata  (5.5 hrs E)"s, 5.5, "E"s));
 
   EXPECT_FALSE(OpenChart(db_, saved.id + 1000).has_value());
 }

@@ -10,6 +10,7 @@
 #include "store/store_error.h"
 #include "store/time_zone_master.h"
 #include "store_test_support.h"
+#include "support/test_data.h"
 
 namespace kelvaro::store {
 namespace {
@@ -75,19 +76,6 @@ TEST_F(Masters, RenameCountryMessagesInOrder) {
 }
 
 TEST_F(Masters, CountrySearchFindsTheFirstStart) {
-  const std::vector<CountryRow> list = {{1, "India", ""}, {2, "Indonesia", ""}, {3, "Iran", ""}};
-  const struct {
-    const char* text;
-    std::optional<std::size_t> index;
-  } cases[] = {{"ind", 0}, {" INDO ", 1}, {"ir", 2}, {"", 0}, {"Indiana", std::nullopt}, {"x", std::nullopt}};
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.text);
-    const SearchResult r = SearchCountries(list, c.text);
-    EXPECT_EQ(r.index, c.index);
-    if (!c.index) {
-      EXPECT_EQ(r.failure->message, "No Such Country Exists");
-    }
-  }
   const auto all = ListCountries(db_);
   const SearchResult india = SearchCountries(all, "indi");
   ASSERT_TRUE(india.found());
@@ -174,50 +162,7 @@ TEST_F(Masters, EditCityMessagesInOrder) {
   EXPECT_THROW(EditCity(db_, 999999, in), StoreError);
 }
 
-TEST_F(Masters, FindCityInTheList) {
-  std::vector<CityRow> list(3);
-  list[0].name = "Hyderabad (A.P)";
-  list[1].name = "Kolkata";
-  list[2].name = "Kollam";
-  const struct {
-    const char* text;
-    std::optional<std::size_t> index;
-    const char* message;
-  } cases[] = {
-      {"  ", std::nullopt, "Enter City Name to Search"},
-      {"hyd", 0, ""},
-      {" KOLL ", 2, ""},
-      {"kol", 1, ""},
-      {"Kolkata East", std::nullopt, "No matches found for the City Name entered"},
-      {"z", std::nullopt, "No matches found for the City Name entered"},
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.text);
-    const SearchResult r = FindCityInList(list, c.text);
-    EXPECT_EQ(r.index, c.index);
-    if (!c.index) {
-      EXPECT_EQ(r.failure->message, c.message);
-    }
-  }
-}
-
 // ---- time zones ----
-
-// Worked by hand: hours + minutes / 60 to two decimals, half away from zero.
-TEST(StoredOffsetTest, HoursAndMinutesToTwoDecimals) {
-  const struct {
-    double hours, minutes, stored;
-  } cases[] = {
-      {5, 30, 5.5},  {5, 45, 5.75}, {5, 20, 5.33},  // 5.3333...
-      {5, 50, 5.83},                                // 5.8333...
-      {0, 1, 0.02},                                 // 0.01666...
-      {1, 27, 1.45}, {0, 0.3, 0.01},  // 0.005 goes up
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(std::to_string(c.hours) + " h " + std::to_string(c.minutes));
-    EXPECT_EQ(StoredOffset(c.hours, c.minutes), c.stored);
-  }
-}
 
 ZoneInput GoodZone(std::int64_t country) { return {country, "Atlantis Time", "5", "30", "E"}; }
 
@@ -322,17 +267,29 @@ TEST_F(Masters, EditZoneMessagesInOrderAndUnchangedUpdateKeepsTheOffset) {
   EXPECT_THROW(EditZone(db_, 999999, {atlantis, "x", "1", "0", "E"}), StoreError);
 }
 
-TEST(ZoneForEditTest, WholeHoursAndMinutes) {
-  const struct {
-    double stored;
-    const char* hours;
-    const char* minutes;
-  } cases[] = {{5.75, "5", "45"}, {5.33, "5", "20"}, {0, "0", "0"}, {9.99, "9", "59"}, {9.999, "10", "0"}};
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.stored);
-    const ZoneEditFields f = ZoneForEdit({1, "Z", c.stored, "E"});
-    EXPECT_EQ(f.hours, c.hours);
-    EXPECT_EQ(f.minutes, c.minutes);
+// The rows of tests/data/store/master_rows.txt, each against its function.
+TEST(MasterRows, OffsetsAndSearches) {
+  std::vector<CityRow> cities(3);
+  cities[0].name = "Hyderabad (A.P)";
+  cities[1].name = "Kolkata";
+  cities[2].name = "Kollam";
+  const std::vector<CountryRow> countries = {{1, "India", ""}, {2, "Indonesia", ""}, {3, "Iran", ""}};
+  const auto rows = kelvaro::testing::TestDataTable("store/master_rows.txt");
+  ASSERT_EQ(rows.size(), 24u);
+  for (const auto& row : rows) {
+    ASSERT_EQ(row.size(), 4u);
+    SCOPED_TRACE(row[0] + " " + row[1] + " " + row[2]);
+    if (row[0] == "StoredOffset") {
+      EXPECT_EQ(StoredOffset(std::stod(row[1]), std::stod(row[2])), std::stod(row[3]));
+    } else if (row[0] == "ZoneForEdit") {
+      const ZoneEditFields f = ZoneForEdit({1, "Z", std::stod(row[1]), "E"});
+      EXPECT_EQ(f.hours + " " + f.minutes, row[2] + " " + row[3]);
+    } else {
+      const SearchResult r = row[0] == "SearchCountries" ? SearchCountries(countries, row[1])
+                                                         : FindCityInList(cities, row[1]);
+      EXPECT_EQ(r.index, row[2].empty() ? std::nullopt : std::optional<std::size_t>(std::stoul(row[2])));
+      EXPECT_EQ(r.failure ? r.failure->message : "", row[3]);
+    }
   }
 }
 

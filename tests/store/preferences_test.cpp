@@ -12,6 +12,7 @@ namespace kelvaro::store {
 namespace {
 
 using testing::TempFolder;
+using namespace std::string_literals;
 
 PreferenceInput Custom(const std::string& zero, const std::string& progression) {
   return {"Custom", "Equal", 365.25, "South", "English", zero, progression};
@@ -78,14 +79,8 @@ TEST(Preferences, SaveRewritesTheOneRow) {
               (FieldMessage{"txtZero", "Enter Zero Year Less than current Year "}));
   }
   Database db(path);
-  const Preferences p = ReadPreferences(db);
-  EXPECT_EQ(p.ayanamsa, "Custom");
-  EXPECT_EQ(p.bhava, "Not Equal");
-  EXPECT_EQ(p.dayInYear, 360.0);
-  EXPECT_EQ(p.chartStyle, "North");
-  EXPECT_EQ(p.language, "Sanskrit");
-  EXPECT_EQ(p.customYear, 285.0);
-  EXPECT_EQ(p.customProgress, 50.25);
+  EXPECT_EQ(testing::PreferenceFields(ReadPreferences(db)),
+            std::make_tuple("Custom"s, "Not Equal"s, 360.0, "North"s, "Sanskrit"s, 285.0, 50.25));
   EXPECT_EQ(db.Connection().execAndGet("SELECT count(*) FROM Preference").getInt(), 1);
 
   PreferenceInput lahiri = Custom("285", "50.25");

@@ -22,6 +22,7 @@ namespace kelvaro::store {
 namespace {
 
 using testing::TempFolder;
+using namespace std::string_literals;
 
 class SeedData : public ::testing::Test {
  protected:
@@ -32,14 +33,8 @@ class SeedData : public ::testing::Test {
 };
 
 TEST_F(SeedData, PreferenceRowIsTheProgramDefault) {
-  const Preferences p = ReadPreferences(db_);
-  EXPECT_EQ(p.ayanamsa, "Lahiri");
-  EXPECT_EQ(p.bhava, "Equal");
-  EXPECT_EQ(p.dayInYear, 365.25);
-  EXPECT_EQ(p.chartStyle, "South");
-  EXPECT_EQ(p.language, "English");
-  EXPECT_EQ(p.customYear, 0.0);
-  EXPECT_EQ(p.customProgress, 0.0);
+  EXPECT_EQ(testing::PreferenceFields(ReadPreferences(db_)),
+            std::make_tuple("Lahiri"s, "Equal"s, 365.25, "South"s, "English"s, 0.0, 0.0));
   EXPECT_EQ(Count("SELECT count(*) FROM Preference"), 1);
   EXPECT_EQ(db_.Connection().execAndGet("SELECT PreID FROM Preference").getString(), "1");
 }

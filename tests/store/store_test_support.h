@@ -8,9 +8,11 @@
 #include <iterator>
 #include <random>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "store/chart_store.h"
+#include "store/preferences.h"
 
 namespace kelvaro::store::testing {
 
@@ -67,6 +69,11 @@ inline ChartFields SampleChartFields(const std::string& name, std::int64_t count
   f.lonMin = 30;
   f.zoneSno = zoneSno;
   return f;
+}
+
+// The preference row's fields, in their order, for one comparison.
+inline auto PreferenceFields(const Preferences& p) {
+  return std::tie(p.ayanamsa, p.bhava, p.dayInYear, p.chartStyle, p.language, p.customYear, p.customProgress);
 }
 
 inline std::string FileBytes(const std::filesystem::path& path) {

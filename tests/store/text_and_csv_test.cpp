@@ -8,33 +8,25 @@
 #include "store/database_location.h"
 #include "store/store_error.h"
 #include "store/text_rules.h"
+#include "support/test_data.h"
 
 namespace kelvaro::store {
 namespace {
 
-TEST(NumericValueTest, WhatCountsAsANumber) {
-  const struct {
-    const char* text;
-    std::optional<double> value;
-  } cases[] = {
-      {"17", 17.0},      {" 17 ", 17.0},  {"+5", 5.0},      {"-0.5", -0.5},   {".5", 0.5},   {"5.", 5.0},
-      {"1.5e3", 1500.0}, {"2E-2", 0.02},  {"", std::nullopt}, {"  ", std::nullopt}, {"-", std::nullopt},
-      {".", std::nullopt}, {"1,000", std::nullopt}, {"12a", std::nullopt}, {"inf", std::nullopt},
-      {"nan", std::nullopt}, {"0x10", std::nullopt}, {"1e", std::nullopt}, {"1 2", std::nullopt}, {"--1", std::nullopt},
-  };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.text);
-    EXPECT_EQ(NumericValue(c.text), c.value);
+// The rows of tests/data/store/number_texts.txt: what counts as a typed
+// number, and the default text of a number.
+TEST(NumberTexts, TypedNumbersAndDefaultText) {
+  const auto rows = kelvaro::testing::TestDataTable("store/number_texts.txt");
+  ASSERT_EQ(rows.size(), 26u);
+  for (const auto& row : rows) {
+    ASSERT_EQ(row.size(), 3u);
+    SCOPED_TRACE(row[0] + " \"" + row[1] + '"');
+    if (row[0] == "NumericValue") {
+      EXPECT_EQ(NumericValue(row[1]), row[2].empty() ? std::nullopt : std::optional<double>(std::stod(row[2])));
+    } else {
+      EXPECT_EQ(NumberText(std::stod(row[1])), row[2]);
+    }
   }
-}
-
-TEST(NumberTextTest, DefaultForm) {
-  EXPECT_EQ(NumberText(5.5), "5.5");
-  EXPECT_EQ(NumberText(5), "5");
-  EXPECT_EQ(NumberText(0.75), "0.75");
-  EXPECT_EQ(NumberText(-0.0), "0");
-  EXPECT_EQ(NumberText(365.25), "365.25");
-  EXPECT_EQ(NumberText(1.0 / 3), "0.333333333333333");  // 15 significant digits
 }
 
 TEST(CsvTableTest, QuotesCommasAndLineEnds) {

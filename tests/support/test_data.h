@@ -38,6 +38,19 @@ inline std::vector<std::string> TestDataLines(const std::string& name) {
   return lines;
 }
 
+// A field with CR and LF written as the escapes \r and \n.
+inline std::string Unescaped(const std::string& text) {
+  std::string out;
+  for (size_t i = 0; i < text.size(); ++i) {
+    if (text[i] == '\\' && i + 1 < text.size() && (text[i + 1] == 'r' || text[i + 1] == 'n')) {
+      out += text[++i] == 'r' ? '\r' : '\n';
+    } else {
+      out += text[i];
+    }
+  }
+  return out;
+}
+
 // The rows of a table file: fields split at '|', blank lines and lines that
 // begin with '#' (comments on where the values come from) left out.
 inline std::vector<std::vector<std::string>> TestDataTable(const std::string& name) {
