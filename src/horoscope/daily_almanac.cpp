@@ -256,23 +256,25 @@ void DailyAlmanacMaker::FillPeriods(DailyAlmanac& day) {
   // The day bar: the three periods and the vishaghati where it falls within
   // this sunrise-to-sunrise day.
   day.dayBar.clear();
-  const auto addBar = [&](const std::string& name, OleDate start, OleDate end) {
+  const auto addBar = [&](const std::string& name, OleDate start, OleDate end, const char* color) {
     if (end <= day.sunrise || start >= day.nextSunrise) return;
     clsTimeDisplay display;
     display.Sunrisetime = day.sunrise;
     display.Sunsettime = day.sunset;
     display.TimeStart = start < day.sunrise ? day.sunrise : start;
     display.TimeEnd = end > day.nextSunrise ? day.nextSunrise : end;
+    // The day and the night take the class's own colours; each period its own.
+    display.TimeBackColor = color;
     display.DisplayTime();
     day.dayBar.push_back({name, display.TimeCaption, display.TimeLeft, display.TimeWidth, display.TimeBackColor,
                           display.TimeForeColor});
   };
-  addBar("Day", day.sunrise, day.sunset);
-  addBar("Night", day.sunset, day.nextSunrise);
-  addBar(day.rahuKalam.name, day.rahuKalam.start, day.rahuKalam.end);
-  addBar(day.yamaganda.name, day.yamaganda.start, day.yamaganda.end);
-  addBar(day.gulikaKalam.name, day.gulikaKalam.start, day.gulikaKalam.end);
-  addBar("Vishaghati", day.vishaStart, day.vishaEnd);
+  addBar("Day", day.sunrise, day.sunset, "");
+  addBar("Night", day.sunset, day.nextSunrise, "");
+  addBar(day.rahuKalam.name, day.rahuKalam.start, day.rahuKalam.end, "#d9534f");
+  addBar(day.yamaganda.name, day.yamaganda.start, day.yamaganda.end, "#f0ad4e");
+  addBar(day.gulikaKalam.name, day.gulikaKalam.start, day.gulikaKalam.end, "#9b72cf");
+  addBar("Vishaghati", day.vishaStart, day.vishaEnd, "#5cb85c");
 }
 
 void DailyAlmanacMaker::FillPlanets(DailyAlmanac& day, const AlmanacPlace& place) {

@@ -26,6 +26,7 @@
 #include "panchanga/star.h"
 #include "panchanga/sun_times.h"
 #include "panchanga/times.h"
+#include "panchanga/time_display.h"
 #include "panchanga/tithi.h"
 #include "panchanga/yoga.h"
 
@@ -56,16 +57,6 @@ struct AlmanacPlanet {
   std::string strength;   // clsPlanetStrength's word, as it stands
   int nature = 0;         // clsPlanetNature by the Lagna of sunrise; 0 for the nodes
   bool hasNature = false; // the nodes have no row of natures
-};
-
-// One period drawn on the day bar (clsTimeDisplay's results).
-struct DayBarPeriod {
-  std::string name;
-  std::string caption;  // "hh:mm:ss to hh:mm:ss"
-  int left = 0;         // minutes from sunrise
-  int width = 0;        // minutes
-  std::string backColor;
-  std::string foreColor;
 };
 
 struct DailyAlmanac {

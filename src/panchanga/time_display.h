@@ -35,6 +35,16 @@ class clsTimeDisplay {
   void DisplayTime();
 };
 
+// One period as a bar painter takes it: DisplayTime's results with a name.
+struct DayBarPeriod {
+  std::string name;
+  std::string caption;  // "hh:mm:ss to hh:mm:ss"
+  int left = 0;         // minutes from sunrise
+  int width = 0;        // minutes
+  std::string backColor;
+  std::string foreColor;
+};
+
 inline constexpr const char* kDayBackColor = "#ffe9a8";
 inline constexpr const char* kDayForeColor = "#202020";
 inline constexpr const char* kNightBackColor = "#2c3e66";

@@ -20,6 +20,7 @@
 #include "horoscope/views.h"
 #include "shell/birth_form_dialog.h"
 #include "shell/chart_view.h"
+#include "shell/daily_almanac_window.h"
 #include "shell/dasa_view.h"
 #include "shell/details_view.h"
 #include "shell/messages.h"
@@ -91,6 +92,9 @@ void MainWindow::BuildMenus() {
   converter->addAction(tr("&BirthTime To  IshtaGhatika"))->setEnabled(false);
   converter->addSeparator();
   converter->addAction(tr("Ishta&Ghatika To BirthTime"))->setEnabled(false);
+  QMenu* almanac = menuBar()->addMenu(tr("&Almanac"));
+  almanac->setObjectName("mnuAlmanac");
+  almanac->addAction(tr("&Daily Almanac"), this, [this] { OpenAlmanac(); });
   QMenu* help = menuBar()->addMenu(tr("Help"));
   help->setObjectName("mdiHelpmnu");
   help->addAction(tr("&Help"), QKeySequence(QKeySequence::HelpContents), this, &MainWindow::ShowHelp);
@@ -293,6 +297,25 @@ BirthFormDialog* MainWindow::OpenBirthForm() {
   auto* form = new BirthFormDialog(std::move(services), this);
   form->open();
   return form;
+}
+
+DailyAlmanacWindow* MainWindow::OpenAlmanac() {
+  if (!db_) {
+    ShowError(this, tr("The database \"%1\" is not open, so no almanac can be made.").arg(options_.databasePath));
+    return nullptr;
+  }
+  auto* window = findChild<DailyAlmanacWindow*>();
+  if (!window) {
+    window = new DailyAlmanacWindow(*db_, *years_, options_.settings, QDate::currentDate(),
+                                    QString::fromStdString(ctx_->state.BirthCountry),
+                                    QString::fromStdString(ctx_->state.BirthCity), this);
+    window->show();
+    window->ShowDay();
+  }
+  window->show();
+  window->raise();
+  window->activateWindow();
+  return window;
 }
 
 void MainWindow::ShowHelp() {

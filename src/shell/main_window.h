@@ -28,6 +28,7 @@ class QDockWidget;
 namespace kelvaro::shell {
 
 class BirthFormDialog;
+class DailyAlmanacWindow;
 class ViewPage;
 
 inline constexpr const char* kMainCaption = "Kelvaro - Kelvaro Basic (Version 2.4)";
@@ -64,6 +65,9 @@ class MainWindow : public QMainWindow {
   ViewPage* View(std::size_t index) const;
 
   BirthFormDialog* OpenBirthForm();
+  // The "Daily Almanac" window, opened on today at the chart's city (one
+  // window: a second call brings it forward).
+  DailyAlmanacWindow* OpenAlmanac();
 
   QTreeWidget* Tree() const { return tree_; }
   QDockWidget* TreeDock() const { return dock_; }
