@@ -17,6 +17,7 @@ int RunCli(int argc, const char* const* argv, std::ostream& out, std::ostream& e
   RegisterConvertCommand(app, session);
   RegisterChartCommand(app, session);
   RegisterReportCommand(app, session);
+  RegisterAlmanacCommand(app, session);
   try {
     app.parse(argc, argv);
   } catch (const CLI::CallForHelp&) {

@@ -33,5 +33,6 @@ void RegisterSummaryCommand(CLI::App& app, Session& session);
 void RegisterConvertCommand(CLI::App& app, Session& session);
 void RegisterChartCommand(CLI::App& app, Session& session);
 void RegisterReportCommand(CLI::App& app, Session& session);
+void RegisterAlmanacCommand(CLI::App& app, Session& session);
 
 }  // namespace kelvaro::cli

@@ -87,6 +87,12 @@ void clsTithi::FindTithi() {
   }
 }
 
+std::string KaranaOfTithi(int tithiNo, int half) {
+  if (tithiNo < 1 || tithiNo > 30) return {};
+  const TithiRow& row = kTithis[static_cast<size_t>(tithiNo - 1)];
+  return half == 1 ? row.firstKarana : row.secondKarana;
+}
+
 std::string TithiNameOf(clsTithi& tithi, double moon, double sun) {
   tithi.moonA = moon;
   tithi.sunC = sun;

@@ -38,4 +38,8 @@ std::string TithiNameOf(clsTithi& tithi, double moon, double sun);
 std::int16_t TithiNumberOf(clsTithi& tithi, double moon, double sun);
 std::string TithiSideOf(clsTithi& tithi, double moon, double sun);
 
+// The karana of the first (half 1) or second (half 2) half of tithi 1 to 30,
+// spelt as FindTithi spells it; empty for any other number.
+std::string KaranaOfTithi(int tithiNo, int half);
+
 }  // namespace kelvaro

@@ -22,6 +22,7 @@
 #include "shell/chart_view.h"
 #include "shell/city_master_dialog.h"
 #include "shell/country_master_dialog.h"
+#include "shell/daily_almanac_window.h"
 #include "shell/dasa_view.h"
 #include "shell/details_view.h"
 #include "shell/help_window.h"
@@ -95,6 +96,9 @@ void MainWindow::BuildMenus() {
   converter->addAction(tr("Ishta&Ghatika To BirthTime"), this, [this] {
     OpenConverter(Conversion::ToBirthTime);
   })->setObjectName("mnu_BirthTime");
+  QMenu* almanac = menuBar()->addMenu(tr("&Almanac"));
+  almanac->setObjectName("mnuAlmanac");
+  almanac->addAction(tr("&Daily Almanac"), this, [this] { OpenAlmanac(); });
   QMenu* help = menuBar()->addMenu(tr("Help"));
   help->setObjectName("mdiHelpmnu");
   help->addAction(tr("&Help"), QKeySequence(QKeySequence::HelpContents), this, &MainWindow::ShowHelp);
@@ -319,6 +323,22 @@ Master* MainWindow::OpenMaster() {
   auto* master = new Master(*db_, options_.settings, this);
   master->open();
   return master;
+}
+
+DailyAlmanacWindow* MainWindow::OpenAlmanac() {
+  if (!DatabaseOpen(tr("no almanac can be made"))) return nullptr;
+  auto* window = findChild<DailyAlmanacWindow*>();
+  if (!window) {
+    window = new DailyAlmanacWindow(*db_, *years_, options_.settings, QDate::currentDate(),
+                                    QString::fromStdString(ctx_->state.BirthCountry),
+                                    QString::fromStdString(ctx_->state.BirthCity), this);
+    window->show();
+    window->ShowDay();
+  }
+  window->show();
+  window->raise();
+  window->activateWindow();
+  return window;
 }
 
 CountryMasterDialog* MainWindow::OpenCountryMaster() { return OpenMaster<CountryMasterDialog>(); }

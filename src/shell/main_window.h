@@ -39,6 +39,7 @@ class PersonalInfoDialog;
 class PreferencesDialog;
 class TimeConverterDialog;
 class PrintView;
+class DailyAlmanacWindow;
 class ViewPage;
 
 inline constexpr const char* kMainCaption = "Kelvaro - Kelvaro Basic (Version 2.4)";
@@ -88,6 +89,9 @@ class MainWindow : public QMainWindow {
   // force (the house system only with withBhava) and the whole calculation.
   // A failed calculation puts the state back as it was.
   bool ChangePreferences(const store::Preferences& values, bool withBhava);
+  // The "Daily Almanac" window, opened on today at the chart's city (one
+  // window: a second call brings it forward).
+  DailyAlmanacWindow* OpenAlmanac();
 
   QTreeWidget* Tree() const { return tree_; }
   QDockWidget* TreeDock() const { return dock_; }

@@ -43,7 +43,7 @@ TEST_F(HelpTest, GuideOpensOnItsFirstPageAndFollowsItsLinks) {
   // Every page the index names is there, and Home comes back.
   const QString index = browser->toHtml();
   for (const char* page : {"birth.html", "views.html", "charts.html", "places.html", "preferences.html",
-                           "printing.html"}) {
+                           "printing.html", "almanac.html"}) {
     EXPECT_TRUE(index.contains(page)) << page;
     browser->setSource(QUrl(page));
     EXPECT_FALSE(browser->documentTitle().isEmpty()) << page;

@@ -43,7 +43,7 @@ TEST_F(ShellTest, CaptionMenusAndTree) {
   EXPECT_TRUE(startBoxes_.empty());
   EXPECT_EQ(window->windowTitle(), "Kelvaro - Kelvaro Basic (Version 2.4)");
   EXPECT_EQ(MenuTexts(window->menuBar()->actions()),
-            QStringList({"&File", "&Enter Birth Details", "&Tools", "&Time Converter", "Help"}));
+            QStringList({"&File", "&Enter Birth Details", "&Tools", "&Time Converter", "&Almanac", "Help"}));
   const QList<QAction*> top = window->menuBar()->actions();
   EXPECT_EQ(MenuTexts(top[0]->menu()->actions()), QStringList({"Save as &PDF...", "&Print..."}));
   EXPECT_EQ(MenuTexts(top[2]->menu()->actions()),
@@ -51,7 +51,8 @@ TEST_F(ShellTest, CaptionMenusAndTree) {
                          "&Preferences"}));
   EXPECT_EQ(MenuTexts(top[3]->menu()->actions()),
             QStringList({"&BirthTime To  IshtaGhatika", "-", "Ishta&Ghatika To BirthTime"}));
-  EXPECT_EQ(MenuTexts(top[4]->menu()->actions()), QStringList({"&Help", "-", "&About Us", "E&xit"}));
+  EXPECT_EQ(MenuTexts(top[4]->menu()->actions()), QStringList({"&Daily Almanac"}));
+  EXPECT_EQ(MenuTexts(top[5]->menu()->actions()), QStringList({"&Help", "-", "&About Us", "E&xit"}));
 
   QTreeWidget* tree = window->Tree();
   ASSERT_EQ(tree->topLevelItemCount(), 10);
