@@ -15,6 +15,7 @@
 
 #include "common/date_text.h"
 #include "shell/city_master_dialog.h"
+#include "shell/clock_fields.h"
 #include "shell/form_keys.h"
 #include "shell/messages.h"
 #include "shell/saved_charts_dialog.h"
@@ -27,8 +28,6 @@
 namespace kelvaro::shell {
 
 namespace {
-
-QString TwoDigits(int value) { return QString("%1").arg(value, 2, 10, QChar('0')); }
 
 QComboBox* MakeCombo(QWidget* parent, const char* name, bool editable) {
   auto* combo = new QComboBox(parent);
@@ -209,13 +208,9 @@ void BirthFormDialog::BuildMenuAndToolbar(QVBoxLayout* layout) {
 
 void BirthFormDialog::SetDefaults() {
   const QDateTime now = services_.now();
-  day_->setCurrentIndex(now.date().day() - 1);
-  month_->setCurrentIndex(now.date().month() - 1);
-  year_->setEditText(QString::number(now.date().year()));
-  const int hour = now.time().hour();
-  hour_->setEditText(TwoDigits(hour % 12 == 0 ? 12 : hour % 12));
-  minute_->setCurrentIndex(now.time().minute());
-  (hour < 12 ? am_ : pm_)->setChecked(true);
+  const ClockFields clock{day_, month_, year_, hour_, minute_, am_, pm_};
+  ShowDate(clock, now.date());
+  ShowTime(clock, now.time());
   gender_->setCurrentIndex(0);
   country_->setCurrentIndex(-1);
   country_->setEditText({});

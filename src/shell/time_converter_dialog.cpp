@@ -11,6 +11,7 @@
 
 #include "common/date_text.h"
 #include "horoscope/time_conversion.h"
+#include "shell/clock_fields.h"
 #include "shell/form_keys.h"
 #include "shell/messages.h"
 #include "shell/remembered_size.h"
@@ -22,7 +23,6 @@ namespace kelvaro::shell {
 
 namespace {
 
-QString TwoDigits(int value) { return QString("%1").arg(value, 2, 10, QChar('0')); }
 
 QComboBox* MakeList(QWidget* parent, const char* name) {
   auto* combo = new QComboBox(parent);
@@ -140,14 +140,10 @@ void TimeConverterDialog::BuildControls() {
 
 void TimeConverterDialog::SetDefaults() {
   const QDateTime now = services_.now();
-  day_->setCurrentIndex(now.date().day() - 1);
-  month_->setCurrentIndex(now.date().month() - 1);
-  year_->setEditText(QString::number(now.date().year()));
+  const ClockFields clock{day_, month_, year_, hour_, minute_, am_, pm_};
+  ShowDate(clock, now.date());
   if (conversion_ == Conversion::ToIshtaGhati) {
-    const int hour = now.time().hour();
-    hour_->setEditText(TwoDigits(hour % 12 == 0 ? 12 : hour % 12));
-    minute_->setCurrentIndex(now.time().minute());
-    (hour < 12 ? am_ : pm_)->setChecked(true);
+    ShowTime(clock, now.time());
   } else {
     hour_->setCurrentIndex(0);
     minute_->setCurrentIndex(0);
