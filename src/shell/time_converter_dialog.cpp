@@ -23,7 +23,6 @@ namespace kelvaro::shell {
 
 namespace {
 
-
 QComboBox* MakeList(QWidget* parent, const char* name) {
   auto* combo = new QComboBox(parent);
   combo->setObjectName(name);
