@@ -87,7 +87,7 @@ TEST(DatabaseOpen, FailedCreationLeavesNothingBehind) {
   const auto path = folder / "DBMirvaneBasic.db";
   OpenOptions options;
   options.migrations = SchemaMigrations();
-  options.migrations.push_back({2, [](SQLite::Database&) { throw std::runtime_error("step two broke"); }});
+  options.migrations.push_back({kSchemaVersion + 1, [](SQLite::Database&) { throw std::runtime_error("step two broke"); }});
   ExpectStoreError(path, "step two broke", [&] { Database db(path, options); });
   EXPECT_TRUE(folder.Entries().empty());
 }
@@ -231,27 +231,27 @@ TEST(DatabaseUpgrade, BacksUpThenMigratesInOrder) {
   std::vector<int> ran;
   OpenOptions options;
   options.migrations = SchemaMigrations();
-  options.migrations.push_back({2, [&](SQLite::Database& c) {
-                                  ran.push_back(2);
+  options.migrations.push_back({kSchemaVersion + 1, [&](SQLite::Database& c) {
+                                  ran.push_back(kSchemaVersion + 1);
                                   c.exec("ALTER TABLE ChartSave ADD COLUMN Notes TEXT");
                                   c.exec("UPDATE ChartSave SET Notes = 'from step 2'");
                                 }});
-  options.migrations.push_back({3, [&](SQLite::Database& c) {
-                                  ran.push_back(3);
+  options.migrations.push_back({kSchemaVersion + 2, [&](SQLite::Database& c) {
+                                  ran.push_back(kSchemaVersion + 2);
                                   // Sees the column of step 2, so the steps ran in order.
                                   c.exec("UPDATE ChartSave SET Notes = Notes || ', step 3'");
                                 }});
   {
     Database db(path, options);
-    EXPECT_EQ(db.SchemaVersion(), 3);
-    EXPECT_EQ(ran, (std::vector<int>{2, 3}));
+    EXPECT_EQ(db.SchemaVersion(), kSchemaVersion + 2);
+    EXPECT_EQ(ran, (std::vector<int>{kSchemaVersion + 1, kSchemaVersion + 2}));
     ASSERT_FALSE(db.BackupPath().empty());
-    EXPECT_EQ(db.BackupPath(), folder / "DBMirvaneBasic.db.v1.bak");
+    EXPECT_EQ(db.BackupPath(), folder / ("DBMirvaneBasic.db.v" + std::to_string(kSchemaVersion) + ".bak"));
     EXPECT_EQ(FileBytes(db.BackupPath()), version1);
     EXPECT_EQ(db.Connection().execAndGet("SELECT Notes FROM ChartSave").getString(), "from step 2, step 3");
     ASSERT_TRUE(OpenChart(db, chart).has_value());
   }
-  EXPECT_EQ(Pragma(path, "user_version"), 3);
+  EXPECT_EQ(Pragma(path, "user_version"), kSchemaVersion + 2);
 
   // Opened again at version 3: nothing runs, no new backup.
   ran.clear();
@@ -260,7 +260,7 @@ TEST(DatabaseUpgrade, BacksUpThenMigratesInOrder) {
     EXPECT_TRUE(ran.empty());
     EXPECT_TRUE(db.BackupPath().empty());
   }
-  EXPECT_EQ(folder.Entries(), (std::vector<std::string>{"DBMirvaneBasic.db", "DBMirvaneBasic.db.v1.bak"}));
+  EXPECT_EQ(folder.Entries(), (std::vector<std::string>{"DBMirvaneBasic.db", "DBMirvaneBasic.db.v" + std::to_string(kSchemaVersion) + ".bak"}));
 }
 
 TEST(DatabaseUpgrade, AFailedStepLeavesTheFileAsItWas) {
@@ -275,7 +275,7 @@ TEST(DatabaseUpgrade, AFailedStepLeavesTheFileAsItWas) {
 
   OpenOptions options;
   options.migrations = SchemaMigrations();
-  options.migrations.push_back({2, [](SQLite::Database& c) {
+  options.migrations.push_back({kSchemaVersion + 1, [](SQLite::Database& c) {
                                   c.exec("ALTER TABLE ChartSave ADD COLUMN Notes TEXT");
                                   c.exec("DELETE FROM ChartSave");
                                   throw std::runtime_error("step two broke");
@@ -285,7 +285,7 @@ TEST(DatabaseUpgrade, AFailedStepLeavesTheFileAsItWas) {
   EXPECT_EQ(folder.Entries(), std::vector<std::string>{"DBMirvaneBasic.db"});
 
   Database db(path);
-  EXPECT_EQ(db.SchemaVersion(), 1);
+  EXPECT_EQ(db.SchemaVersion(), kSchemaVersion);
   EXPECT_TRUE(OpenChart(db, chart).has_value());
 }
 
@@ -297,7 +297,7 @@ TEST(DatabaseUpgrade, ReadOnlyOpenDoesNotUpgrade) {
   OpenOptions options;
   options.readOnly = true;
   options.migrations = SchemaMigrations();
-  options.migrations.push_back({2, [](SQLite::Database& c) { c.exec("CREATE TABLE Extra (x)"); }});
+  options.migrations.push_back({kSchemaVersion + 1, [](SQLite::Database& c) { c.exec("CREATE TABLE Extra (x)"); }});
   ExpectStoreError(path, "read-only", [&] { Database db(path, options); });
   EXPECT_EQ(FileBytes(path), before);
 }
