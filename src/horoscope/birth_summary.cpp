@@ -13,7 +13,7 @@
 namespace kelvaro {
 
 std::vector<BirthSummary::Field> BirthSummary::Fields() const {
-  return {
+  std::vector<Field> fields = {
       {"txtGName", "Name", &txtGName},
       {"txtSex", "Gender", &txtSex},
       {"Txt_BC_Date", "Date of Birth", &Txt_BC_Date},
@@ -45,6 +45,8 @@ std::vector<BirthSummary::Field> BirthSummary::Fields() const {
       {"txtRasi", "Rasi", &txtRasi},
       {"txtYogam", "Yogam", &txtYogam},
   };
+  if (!txtClockOffset.empty()) fields.push_back({"txtClockOffset", "Clock Offset", &txtClockOffset});
+  return fields;
 }
 
 namespace {
@@ -185,6 +187,7 @@ void FillBirthSummary(CalculationContext& ctx) {
       b.SummaryMoment < s.SunriseOfBirthDay ? DateAdd(Interval::Day, -1, b.SummaryMoment) : b.SummaryMoment;
   b.txtVedic = WeekdayName(vedicDay.Weekday());
   b.txtTimeZone = s.BirthTimeZoneName;
+  b.txtClockOffset = s.ClockOffsetNote;
 
   FillCalendarFields(ctx);
 
