@@ -90,7 +90,9 @@ bool ApplyZoneRules(const HoroscopeOptions& o, store::Database& db, HoroscopeSta
   query.lat = o.birth.lat;
   query.lon = o.birth.lon;
   ZoneAnswer answer;
-  if (const auto error = ResolveZone(db, query, answer)) return BadInput(session, error->Message());
+  if (const auto error = ResolveZone([&db]() -> store::Database& { return db; }, query, answer)) {
+    return BadInput(session, error->Message());
+  }
   BirthText birth = o.birth;
   birth.lat = answer.lat;
   birth.lon = answer.lon;

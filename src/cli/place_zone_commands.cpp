@@ -98,9 +98,13 @@ const char* KindName(OffsetKind kind) {
 
 void Zone(Session& s, const ZoneOptions& o) {
   try {
-    store::Database db(DatabasePathOrDefault(o.database));
+    std::unique_ptr<store::Database> db;
+    const auto open = [&]() -> store::Database& {
+      if (!db) db = std::make_unique<store::Database>(DatabasePathOrDefault(o.database));
+      return *db;
+    };
     ZoneAnswer a;
-    if (const auto error = ResolveZone(db, o.query, a)) return Fail(s, kExitBadInput, error->Message());
+    if (const auto error = ResolveZone(open, o.query, a)) return Fail(s, kExitBadInput, error->Message());
     const ClockOffset& z = a.offset;
     if (o.json) {
       nlohmann::ordered_json j;

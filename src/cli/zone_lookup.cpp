@@ -59,14 +59,15 @@ std::optional<InputError> FindPlace(store::Database& db, const ZoneQuery& q, sto
 
 }  // namespace
 
-std::optional<InputError> ResolveZone(store::Database& db, const ZoneQuery& q, ZoneAnswer& answer) {
+std::optional<InputError> ResolveZone(const std::function<store::Database&()>& openDatabase, const ZoneQuery& q,
+                                      ZoneAnswer& answer) {
   std::string zoneId = q.zoneId;
   std::string lat = q.lat, lon = q.lon;
   if (zoneId.empty()) {
     if (q.city.empty()) return InputError{"--city", "", "give --city and --country, or --zone-id with --lat and --lon"};
     if (q.country.empty()) return InputError{"--country", "", "is required with --city"};
     store::PlaceRecord place;
-    if (auto e = FindPlace(db, q, place)) return e;
+    if (auto e = FindPlace(openDatabase(), q, place)) return e;
     if (place.zoneId.empty()) return InputError{"--city", q.city, "the place has no time zone; give --zone-id"};
     zoneId = place.zoneId;
     answer.place = place.Label();

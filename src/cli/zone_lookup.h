@@ -2,6 +2,7 @@
 // The clock offset of a birth from the IANA rules: the place by --city and
 // --country (looked up among the atlas and the city master) or the zone by
 // --zone-id with --lat and --lon. Shared by `zone` and `--tz auto`.
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -34,7 +35,9 @@ struct ZoneAnswer {
 // Answers the query, or names the flag that is wrong. The city is found by
 // its whole name ("Hyderabad") or its name and region ("Hyderabad, Sindh");
 // a name that several regions of the country share is refused with their
-// list. Throws store::StoreError for a database that cannot be read.
-std::optional<InputError> ResolveZone(store::Database& db, const ZoneQuery& query, ZoneAnswer& answer);
+// list. `openDatabase` is called only when a place is to be looked up; it
+// throws store::StoreError for a database that cannot be used.
+std::optional<InputError> ResolveZone(const std::function<store::Database&()>& openDatabase, const ZoneQuery& query,
+                                      ZoneAnswer& answer);
 
 }  // namespace kelvaro::cli

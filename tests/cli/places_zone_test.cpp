@@ -154,5 +154,29 @@ TEST_F(PlacesAndZones, TzAutoInTheSummaryAndTheReport) {
   EXPECT_NE(noPlace.err.find("--lat is required"), std::string::npos) << noPlace.err;
 }
 
+// positions with --tz auto gives what the offset and the place it found give
+// when typed in, and says why.
+TEST_F(PlacesAndZones, TzAutoInPositions) {
+  const Outcome found = Run({"positions", "--date", "14/07/1943", "--time", "12:00", "--tz", "auto", "--city",
+                             "Kolkata", "--country", "India", "--json"});
+  ASSERT_EQ(found.status, kExitOk) << found.err;
+  const Outcome typed = RunTool({"positions", "--date", "14/07/1943", "--time", "12:00", "--lat", "22N34", "--lon",
+                                 "88E22", "--tz", "6.5E", "--json"});
+  ASSERT_EQ(typed.status, kExitOk) << typed.err;
+  auto j = nlohmann::json::parse(found.out);
+  EXPECT_EQ(j["clock_offset"], "Asia/Kolkata: +6:30 on 14/07/1943 (war time)");
+  j.erase("clock_offset");
+  EXPECT_EQ(j, nlohmann::json::parse(typed.out));
+
+  // 5:14 exactly at 78 30 E, not the 5.2333 hours of the flag's text.
+  const Outcome lmt = RunTool({"positions", "--date", "14/07/1850", "--time", "12:00", "--lat", "17N20", "--lon",
+                               "78E30", "--tz", "auto", "--zone-id", "Asia/Kolkata", "--json"});
+  ASSERT_EQ(lmt.status, kExitOk) << lmt.err;
+  const Outcome exact = RunTool({"positions", "--date", "14/07/1850", "--time", "12:00", "--lat", "17N20", "--lon",
+                                 "78E30", "--tz", "5.23333333333333E", "--json"});
+  ASSERT_EQ(exact.status, kExitOk) << exact.err;
+  EXPECT_EQ(nlohmann::json::parse(lmt.out)["moon"], nlohmann::json::parse(exact.out)["moon"]);
+}
+
 }  // namespace
 }  // namespace kelvaro::cli
