@@ -151,6 +151,7 @@ std::vector<const PlaceRecord*> PlaceIndex::Find(std::string_view text, std::opt
   const auto rank = [&](const auto& m) {
     return std::make_tuple(*m.first != key, m.second->cityId == 0, -m.second->population);
   };
+  if (matches.empty()) return found;
   const std::size_t n = std::min(limit, matches.size());
   std::partial_sort(matches.begin(), matches.begin() + static_cast<std::ptrdiff_t>(n), matches.end(),
                     [&](const auto& a, const auto& b) { return rank(a) < rank(b); });

@@ -39,7 +39,7 @@ seconds StandardOffsetNear(const date::time_zone& zone, const date::sys_info& in
 
 bool InWorldWarTwo(const date::sys_info& info) {
   using namespace date;
-  const sys_days warFrom = 1939_y / September / 1, warTo = 1946_y / January / 1;
+  const sys_days warFrom = year{1939} / September / 1, warTo = year{1946} / January / 1;
   return info.begin < warTo && info.end > warFrom;
 }
 
