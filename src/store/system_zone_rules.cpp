@@ -94,17 +94,19 @@ int VersionYear(const std::string& version) {
 }
 
 // The compiled zone files list each transition only up to 2037 and leave
-// the years after it to a rule that date/tz.h does not read, so a later year
-// is read as the latest listed year that shares its calendar (leap or not,
-// and the week-day of 1 January): the rules in force at the end of the data,
-// carried on as they stand.
-int ListedYearLike(int y) {
+// the years after it to a rule that date/tz.h does not read. A later date is
+// read in the latest listed year whose month of the date begins on the same
+// week-day (and, for February, that is leap when the date's year is): summer
+// time rules are week-day rules within a month ("last Sunday of March"), so
+// that year holds the same clock changes on the same days, by the rules in
+// force at the end of the data.
+int ListedYearLike(int y, unsigned month) {
   using namespace date;
   constexpr int kLastListedYear = 2037;
   if (y <= kLastListedYear) return y;
-  const auto firstWeekday = [](int n) { return weekday{sys_days{year{n} / January / 1}}; };
-  for (int candidate = kLastListedYear; candidate > kLastListedYear - 40; --candidate) {
-    if (year{candidate}.is_leap() == year{y}.is_leap() && firstWeekday(candidate) == firstWeekday(y)) {
+  const auto firstWeekday = [month](int n) { return weekday{sys_days{year{n} / date::month{month} / 1}}; };
+  for (int candidate = kLastListedYear; candidate > kLastListedYear - 28; --candidate) {
+    if (firstWeekday(candidate) == firstWeekday(y) && (month != 2 || year{candidate}.is_leap() == year{y}.is_leap())) {
       return candidate;
     }
   }
@@ -143,7 +145,7 @@ bool SystemZoneRules::Knows(std::string_view zoneId) const {
 ClockOffset SystemZoneRules::OffsetAt(std::string_view zoneId, const LocalClockTime& t, Fold fold) const {
   using namespace date;
   const time_zone* zone = Zone(zoneId);
-  const local_seconds clock = local_days{year{ListedYearLike(t.year)} / t.month / t.day} + std::chrono::hours{t.hour} +
+  const local_seconds clock = local_days{year{ListedYearLike(t.year, static_cast<unsigned>(t.month))} / t.month / t.day} + std::chrono::hours{t.hour} +
                               std::chrono::minutes{t.minute};
   const local_info info = zone->get_info(clock);
 
