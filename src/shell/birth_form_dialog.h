@@ -8,12 +8,17 @@
 #include <QDialog>
 #include <cstdint>
 #include <functional>
+#include <memory>
+#include <vector>
 
 #include "horoscope/birth_form.h"
 #include "store/database.h"
+#include "store/place_search.h"
 #include "store/settings.h"
 
 class QComboBox;
+class QCompleter;
+class QStringListModel;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
@@ -66,6 +71,10 @@ class BirthFormDialog : public QDialog {
   void ChooseCountry(bool chooseSingleZone = true);
   void ChooseCity();
   void ChooseZone();
+  // The place finder: the atlas and the city master searched as the user
+  // types; choosing a place fills the country, city, place and zone.
+  void SearchPlaces(const QString& text);
+  void ChoosePlace(int row);
   void SetPlace(double latDeg, const std::string& latNS, double latMin, double lonDeg, const std::string& lonEW,
                 double lonMin);
   // The checks and the place, country and zone behind the texts; false after
@@ -92,6 +101,13 @@ class BirthFormDialog : public QDialog {
   QComboBox* minute_;
   QRadioButton* am_;
   QRadioButton* pm_;
+  QLineEdit* find_;
+  QCompleter* completer_;
+  QStringListModel* found_;
+  // Read at the first keystroke in the finder, so that opening the form
+  // does not wait for the whole atlas.
+  std::unique_ptr<store::PlaceIndex> places_;
+  std::vector<store::PlaceRecord> shown_;
   QComboBox* country_;
   QComboBox* city_;
   QComboBox* zone_;
