@@ -1,6 +1,7 @@
 #include "shell/birth_form_dialog.h"
 
 #include <QAction>
+#include <QApplication>
 #include <cmath>
 #include <QComboBox>
 #include <QCompleter>
@@ -178,6 +179,9 @@ void BirthFormDialog::BuildControls() {
   connect(city_, &QComboBox::editTextChanged, this, [this] { placeKnown_ = false; });
   connect(zone_, &QComboBox::editTextChanged, this, [this] { zoneKnown_ = false; });
   connect(find_, &QLineEdit::textEdited, this, &BirthFormDialog::SearchPlaces);
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+    if (now == find_) LoadPlaces();
+  });
   connect(completer_, qOverload<const QModelIndex&>(&QCompleter::activated), this,
           [this](const QModelIndex& index) { ChoosePlace(index.row()); });
   connect(ok_, &QPushButton::clicked, this, &BirthFormDialog::Ok);
@@ -308,14 +312,20 @@ void BirthFormDialog::ChooseZone() {
   zoneKnown_ = true;
 }
 
-void BirthFormDialog::SearchPlaces(const QString& text) {
-  if (!services_.db) return;
+bool BirthFormDialog::LoadPlaces() {
+  if (places_) return true;
+  if (!services_.db) return false;
   try {
-    if (!places_) places_ = std::make_unique<store::PlaceIndex>(store::PlaceIndex::Load(*services_.db));
+    places_ = std::make_unique<store::PlaceIndex>(store::PlaceIndex::Load(*services_.db));
   } catch (const store::StoreError& e) {
     ShowError(this, Qs(e.what()));
-    return;
+    return false;
   }
+  return true;
+}
+
+void BirthFormDialog::SearchPlaces(const QString& text) {
+  if (!LoadPlaces()) return;
   shown_.clear();
   QStringList items;
   for (const store::PlaceRecord* p : places_->Find(Std(text.trimmed()), std::nullopt, 20)) {

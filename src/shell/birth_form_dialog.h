@@ -74,6 +74,9 @@ class BirthFormDialog : public QDialog {
   // The place finder: the atlas and the city master searched as the user
   // types; choosing a place fills the country, city, place and zone.
   void SearchPlaces(const QString& text);
+  // Reads the places when the finder first takes the focus; false after
+  // showing why it could not.
+  bool LoadPlaces();
   void ChoosePlace(int row);
   void SetPlace(double latDeg, const std::string& latNS, double latMin, double lonDeg, const std::string& lonEW,
                 double lonMin);
@@ -104,8 +107,8 @@ class BirthFormDialog : public QDialog {
   QLineEdit* find_;
   QCompleter* completer_;
   QStringListModel* found_;
-  // Read at the first keystroke in the finder, so that opening the form
-  // does not wait for the whole atlas.
+  // Read when the finder first takes the focus, so that neither opening the
+  // form nor a keystroke waits for the whole atlas.
   std::unique_ptr<store::PlaceIndex> places_;
   std::vector<store::PlaceRecord> shown_;
   QComboBox* country_;
