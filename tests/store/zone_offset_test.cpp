@@ -28,8 +28,6 @@ TEST(SystemZoneRules, OffsetsMatchZdump) {
       // The system database keeps no Bombay time: Mumbai in 1950 is on IST.
       {"Mumbai 1950", "Asia/Kolkata", {1950, 6, 1, 10, 0, 72.88}, Fold::Earlier, 19800, "standard time",
        OffsetKind::Standard},
-      {"Kolkata after the war", "Asia/Kolkata", {1945, 10, 15, 0, 30, 88.37}, Fold::Earlier, 19800, "standard time",
-       OffsetKind::Standard},
       {"New York July", "America/New_York", {2020, 7, 4, 12, 0, -74.0}, Fold::Earlier, -14400, "summer time",
        OffsetKind::Daylight},
       {"New York January", "America/New_York", {2020, 1, 15, 12, 0, -74.0}, Fold::Earlier, -18000, "standard time",
@@ -42,16 +40,12 @@ TEST(SystemZoneRules, OffsetsMatchZdump) {
        OffsetKind::Daylight},
       {"Sydney January", "Australia/Sydney", {2020, 1, 15, 12, 0, 151.2}, Fold::Earlier, 39600, "summer time",
        OffsetKind::Daylight},
-      {"Sydney July", "Australia/Sydney", {2020, 7, 15, 12, 0, 151.2}, Fold::Earlier, 36000, "standard time",
-       OffsetKind::Standard},
       // Albany, 73 45 W, before the railways' standard time of 1883: its own
       // mean time, not New York's (-4:56:02).
       {"Albany 1880 local mean time", "America/New_York", {1880, 3, 1, 9, 0, -73.75}, Fold::Earlier, -17700,
        "local mean time", OffsetKind::LocalMeanTime},
       {"New York last LMT minute", "America/New_York", {1883, 11, 18, 11, 55, -74.0}, Fold::Earlier, -17760,
        "local mean time", OffsetKind::LocalMeanTime},
-      {"New York first EST day", "America/New_York", {1883, 11, 19, 9, 0, -74.0}, Fold::Earlier, -18000,
-       "standard time", OffsetKind::Standard},
       {"Doubled hour, earlier", "America/New_York", {2020, 11, 1, 1, 30, -74.0}, Fold::Earlier, -14400,
        "summer time", OffsetKind::Daylight},
       {"Doubled hour, later", "America/New_York", {2020, 11, 1, 1, 30, -74.0}, Fold::Later, -18000,
@@ -60,8 +54,6 @@ TEST(SystemZoneRules, OffsetsMatchZdump) {
        OffsetKind::Standard},
       {"After the data's release", "America/New_York", {2999, 7, 4, 12, 0, -74.0}, Fold::Earlier, -14400,
        "summer time", OffsetKind::Daylight},
-      {"Far future winter", "America/New_York", {2999, 1, 4, 12, 0, -74.0}, Fold::Earlier, -18000,
-       "standard time", OffsetKind::Standard},
       {"Sydney 2100 January", "Australia/Sydney", {2100, 1, 15, 12, 0, 151.2}, Fold::Earlier, 39600,
        "summer time", OffsetKind::Daylight},
   };
