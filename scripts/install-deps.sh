@@ -9,7 +9,7 @@ packages=(
   libcli11-dev nlohmann-json3-dev libfmt-dev
   libgtest-dev libgmock-dev libbenchmark-dev
   cppcheck
-  tzdata
+  tzdata libhowardhinnant-date-dev zlib1g-dev gzip
   qt6-base-dev qt6-svg-dev libgl-dev
   fonts-dejavu-core fonts-liberation2 fonts-lohit-deva
   poppler-utils

@@ -6,6 +6,7 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
+#include "shell/birth_form_dialog.h"
 #include "shell/main_window.h"
 #include "store/database.h"
 #include "support/sample_birth_form.h"
@@ -55,5 +56,25 @@ void BM_OkToViewsFilled(benchmark::State& state) {
   }
 }
 BENCHMARK(BM_OkToViewsFilled)->Unit(benchmark::kMillisecond);
+
+// Opening "Enter Birth Details" on a database that holds the atlas: the
+// form, its lists, shown and painted. The atlas itself is read only when the
+// place finder takes the focus.
+void BM_OpenBirthForm(benchmark::State& state) {
+  Folder folder;
+  MainWindow window(folder.Options());
+  window.show();
+  if (!window.Start()) state.SkipWithError("the start failed");
+  for (auto _ : state) {
+    auto* form = window.OpenBirthForm();
+    if (form == nullptr) state.SkipWithError("no form");
+    form->repaint();
+    state.PauseTiming();
+    form->close();
+    QApplication::processEvents();
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(BM_OpenBirthForm)->Unit(benchmark::kMillisecond);
 
 }  // namespace

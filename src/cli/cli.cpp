@@ -13,6 +13,7 @@ int RunCli(int argc, const char* const* argv, std::ostream& out, std::ostream& e
   Session session{out, err};
   RegisterPositionsCommand(app, session);
   RegisterStoreCommands(app, session);
+  RegisterPlaceZoneCommands(app, session);
   RegisterSummaryCommand(app, session);
   RegisterConvertCommand(app, session);
   RegisterChartCommand(app, session);

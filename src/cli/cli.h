@@ -34,5 +34,7 @@ void RegisterConvertCommand(CLI::App& app, Session& session);
 void RegisterChartCommand(CLI::App& app, Session& session);
 void RegisterReportCommand(CLI::App& app, Session& session);
 void RegisterAlmanacCommand(CLI::App& app, Session& session);
+// After RegisterStoreCommands: adds `places find` to its `places`.
+void RegisterPlaceZoneCommands(CLI::App& app, Session& session);
 
 }  // namespace kelvaro::cli

@@ -2,7 +2,10 @@
 
 #include <CLI/CLI.hpp>
 
+#include <cstdlib>
+
 #include "cli/database_option.h"
+#include "cli/zone_lookup.h"
 #include "common/calculation_error.h"
 #include "common/number_rules.h"
 #include "horoscope/birth_form.h"
@@ -75,6 +78,34 @@ bool ApplyOverrides(const HoroscopeOptions& o, HoroscopeState& s, Session& sessi
   return true;
 }
 
+// --tz auto: the offset in force at the place and moment by the IANA rules,
+// with its reason kept for the summary and the report.
+bool ApplyZoneRules(const HoroscopeOptions& o, store::Database& db, HoroscopeState& s, Session& session) {
+  ZoneQuery query;
+  query.city = o.zoneId.empty() ? o.city : std::string();
+  query.country = o.country;
+  query.zoneId = o.zoneId;
+  query.date = o.birth.date;
+  query.time = o.birth.time;
+  query.lat = o.birth.lat;
+  query.lon = o.birth.lon;
+  ZoneAnswer answer;
+  if (const auto error = ResolveZone([&db]() -> store::Database& { return db; }, query, answer)) {
+    return BadInput(session, error->Message());
+  }
+  BirthText birth = o.birth;
+  birth.lat = answer.lat;
+  birth.lon = answer.lon;
+  birth.tz = TzText(answer.offset.offsetSeconds);
+  if (const auto error = ApplyBirthDetails(birth, "--", s)) return BadInput(session, error->Message());
+  // The exact offset: a local mean time is not a whole number of minutes.
+  s.TimeDiff = std::abs(answer.offset.offsetSeconds) / 3600.0;
+  s.TimeDiffEW = answer.offset.offsetSeconds < 0 ? "W" : "E";
+  if (s.BirthTimeZoneName.empty()) s.BirthTimeZoneName = answer.offset.zoneId;
+  s.ClockOffsetNote = answer.audit;
+  return true;
+}
+
 }  // namespace
 
 void AddHoroscopeOptions(CLI::App* cmd, HoroscopeOptions& o, bool withChartPrefs, bool withJson) {
@@ -88,6 +119,7 @@ void AddHoroscopeOptions(CLI::App* cmd, HoroscopeOptions& o, bool withChartPrefs
   cmd->add_option("--city", o.city, "City of birth, as shown");
   cmd->add_option("--country", o.country, "Country of birth, as shown");
   cmd->add_option("--zone-name", o.zoneName, "Time zone, as shown");
+  auto* zoneId = cmd->add_option("--zone-id", o.zoneId, "IANA zone for --tz auto, with --lat and --lon (as Asia/Kolkata)");
   cmd->add_option("--ayanamsa", o.ayanamsa, "Lahiri, Raman, KP, Sayana or Custom (default: the preferences)");
   cmd->add_option("--zero-year", o.zeroYear, "Zero year of the Custom ayanamsa");
   cmd->add_option("--progress", o.progress, "Yearly progress of the Custom ayanamsa, seconds of arc");
@@ -100,7 +132,7 @@ void AddHoroscopeOptions(CLI::App* cmd, HoroscopeOptions& o, bool withChartPrefs
   auto* chart = cmd->add_option("--chart", o.chart, "Number (Sno) of a saved chart");
   cmd->add_option("--database", o.database, "Database file (default: the per-user data folder)");
   if (withJson) cmd->add_flag("--json", o.json, "Print JSON");
-  for (auto* opt : {date, time, lat, lon, tz}) chart->excludes(opt);
+  for (auto* opt : {date, time, lat, lon, tz, zoneId}) chart->excludes(opt);
 }
 
 void RunHoroscope(const HoroscopeOptions& o, Session& session,
@@ -110,7 +142,9 @@ void RunHoroscope(const HoroscopeOptions& o, Session& session,
     for (const auto& [value, flag] : {std::pair{&o.birth.date, "--date"}, std::pair{&o.birth.time, "--time"},
                                       std::pair{&o.birth.lat, "--lat"}, std::pair{&o.birth.lon, "--lon"},
                                       std::pair{&o.birth.tz, "--tz"}}) {
-      if (value->empty()) {
+      // --tz auto with --city takes the place's latitude and longitude.
+      const bool fromPlace = o.birth.tz == "auto" && !o.city.empty() && o.zoneId.empty();
+      if (value->empty() && !(fromPlace && (value == &o.birth.lat || value == &o.birth.lon))) {
         BadInput(session, std::string(flag) + " is required (or give --chart ID)");
         return;
       }
@@ -141,7 +175,9 @@ void RunHoroscope(const HoroscopeOptions& o, Session& session,
       s.BirthCity = o.city;
       s.BirthCountry = o.country;
       s.BirthTimeZoneName = o.zoneName;
-      if (const auto error = ApplyBirthDetails(o.birth, "--", s)) {
+      if (o.birth.tz == "auto") {
+        if (!ApplyZoneRules(o, db, s, session)) return;
+      } else if (const auto error = ApplyBirthDetails(o.birth, "--", s)) {
         BadInput(session, error->Message());
         return;
       }

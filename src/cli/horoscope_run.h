@@ -26,6 +26,9 @@ namespace kelvaro::cli {
 struct HoroscopeOptions {
   BirthText birth;
   std::string name, gender = "Male", city, country, zoneName;
+  // With --tz auto: the zone whose IANA rules give the offset, when no
+  // --city and --country name the place.
+  std::string zoneId;
   std::string ayanamsa, language, style, bhava, days;
   std::string zeroYear, progress;
   std::int64_t chart = 0;
@@ -33,7 +36,7 @@ struct HoroscopeOptions {
   bool json = false;
 };
 
-// Adds the birth flags (--date ... --tz, --name ... --zone-name), --chart,
+// Adds the birth flags (--date ... --tz, --name ... --zone-name, --zone-id), --chart,
 // --ayanamsa with --zero-year and --progress, --language and --database to
 // the command. `withChartPrefs` adds --style, --bhava and --days; `withJson`
 // adds --json.

@@ -1,6 +1,8 @@
 // kelvaro-cli positions: the positions, the day's limits, Gulika and Maandi of
 // one birth, or of every row of a CSV file.
 #include <CLI/CLI.hpp>
+#include <cmath>
+#include <memory>
 #include <fmt/format.h>
 
 #include <filesystem>
@@ -12,6 +14,10 @@
 
 #include "cli/birth_input.h"
 #include "cli/cli.h"
+#include "cli/database_option.h"
+#include "cli/zone_lookup.h"
+#include "store/database.h"
+#include "store/store_error.h"
 #include "common/angle_text.h"
 #include "common/calculation_error.h"
 #include "common/date_text.h"
@@ -91,10 +97,17 @@ std::string PositionsTable(const HoroscopeState& s) {
 
 // Runs one birth on a fresh context, so every result depends on its own row
 // alone and never on what was calculated before it.
-HoroscopeState Calculate(const BirthText& text, const std::string& prefix, std::optional<InputError>& error) {
+// `offsetSeconds`, when given, is the exact offset of the zone rules (a local
+// mean time is no whole number of minutes).
+HoroscopeState Calculate(const BirthText& text, const std::string& prefix, std::optional<InputError>& error,
+                         std::optional<int> offsetSeconds = std::nullopt) {
   CalculationContext ctx;
   error = ApplyBirthText(text, prefix, ctx.state);
   if (error) return ctx.state;
+  if (offsetSeconds) {
+    ctx.state.TimeDiff = std::abs(*offsetSeconds) / 3600.0;
+    ctx.state.TimeDiffEW = *offsetSeconds < 0 ? "W" : "E";
+  }
   ctx.state.Language = "English";
   LoadNamesForLanguage(ctx.state);
   ComputeChartPositions(ctx, kRasiDivision);
@@ -248,25 +261,34 @@ void RegisterPositionsCommand(CLI::App& app, Session& session) {
   auto progress = std::make_shared<std::string>();
   auto json = std::make_shared<bool>(false);
   auto batch = std::make_shared<std::string>();
+  auto place = std::make_shared<ZoneQuery>();
+  auto database = std::make_shared<std::string>();
   text->ayanamsa = "Lahiri";
   auto* date = cmd->add_option("--date", text->date, "Date of birth, DD/MM/YYYY");
   auto* time = cmd->add_option("--time", text->time, "Clock time of birth, HH:MM on a 24-hour clock");
   auto* lat = cmd->add_option("--lat", text->lat, "Latitude, DEG{N|S}MIN, e.g. 17N20");
   auto* lon = cmd->add_option("--lon", text->lon, "Longitude, DEG{E|W}MIN, e.g. 78E30");
-  auto* tz = cmd->add_option("--tz", text->tz, "Time zone, HOURS{E|W}, e.g. 5.5E or 8W");
+  auto* tz = cmd->add_option("--tz", text->tz, "Time zone, HOURS{E|W}, e.g. 5.5E or 8W, or auto");
+  cmd->add_option("--city", place->city, "With --tz auto: place of birth (\"Hyderabad\" or \"Hyderabad, Sindh\")");
+  cmd->add_option("--country", place->country, "With --tz auto and --city: country name or CountryID");
+  cmd->add_option("--zone-id", place->zoneId, "With --tz auto: IANA zone, as Asia/Kolkata (with --lat and --lon)");
+  cmd->add_option("--database", *database, "With --tz auto and --city: database file (default: the per-user data folder)");
   cmd->add_option("--ayanamsa", text->ayanamsa, "Lahiri, Raman, KP, Sayana or Custom")->capture_default_str();
   auto* zy = cmd->add_option("--zero-year", *zeroYear, "Zero year of the Custom ayanamsa");
   auto* pr = cmd->add_option("--progress", *progress, "Yearly progress of the Custom ayanamsa, seconds of arc");
   cmd->add_flag("--json", *json, "Print one JSON object instead of the table");
   auto* b = cmd->add_option("--batch", *batch, "CSV file with the header date,time,lat,lon,tz,ayanamsa");
   for (auto* o : {date, time, lat, lon, tz}) b->excludes(o);
-  cmd->callback([&session, text, zeroYear, progress, json, batch, b, date, time, lat, lon, tz, zy, pr]() {
+  cmd->callback([&session, text, zeroYear, progress, json, batch, b, date, time, lat, lon, tz, zy, pr, place,
+                 database]() {
     if (b->count() > 0) {
       RunBatch(*batch, session);
       return;
     }
+    // --tz auto with --city takes the place's latitude and longitude.
+    const bool fromPlace = text->tz == "auto" && !place->city.empty() && place->zoneId.empty();
     for (auto* o : {date, time, lat, lon, tz}) {
-      if (o->count() == 0) {
+      if (o->count() == 0 && !(fromPlace && (o == lat || o == lon))) {
         session.err << "kelvaro-cli: " << o->get_name() << " is required (or give --batch FILE)\n";
         session.status = kExitBadInput;
         return;
@@ -275,16 +297,49 @@ void RegisterPositionsCommand(CLI::App& app, Session& session) {
     if (zy->count() > 0) text->zeroYear = *zeroYear;
     if (pr->count() > 0) text->progress = *progress;
     std::optional<InputError> error;
-    const HoroscopeState s = Calculate(*text, "--", error);
+    std::optional<int> offset;
+    std::string audit;
+    if (text->tz == "auto") {
+      try {
+        std::unique_ptr<store::Database> db;
+        const auto open = [&]() -> store::Database& {
+          if (!db) db = std::make_unique<store::Database>(DatabasePathOrDefault(*database));
+          return *db;
+        };
+        ZoneQuery query = *place;
+        if (!query.zoneId.empty()) query.city.clear();
+        query.date = text->date;
+        query.time = text->time;
+        query.lat = text->lat;
+        query.lon = text->lon;
+        ZoneAnswer answer;
+        error = ResolveZone(open, query, answer);
+        if (!error) {
+          text->lat = answer.lat;
+          text->lon = answer.lon;
+          text->tz = TzText(answer.offset.offsetSeconds);
+          offset = answer.offset.offsetSeconds;
+          audit = answer.audit;
+        }
+      } catch (const store::StoreError& e) {
+        session.err << "kelvaro-cli: " << e.what() << "\n";
+        session.status = kExitFailure;
+        return;
+      }
+    }
+    const HoroscopeState s = error ? HoroscopeState{} : Calculate(*text, "--", error, offset);
     if (error) {
       session.err << "kelvaro-cli: " << error->Message() << "\n";
       session.status = kExitBadInput;
       return;
     }
     if (*json) {
-      session.out << PositionsJson(s).dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << "\n";
+      auto j = PositionsJson(s);
+      if (!audit.empty()) j["clock_offset"] = audit;
+      session.out << j.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << "\n";
     } else {
       session.out << PositionsTable(s);
+      if (!audit.empty()) session.out << fmt::format("{:<10} {}\n", "Clock", audit);
     }
   });
 }

@@ -14,7 +14,7 @@
 namespace kelvaro {
 
 std::vector<BirthSummary::Field> BirthSummary::Fields() const {
-  return {
+  std::vector<Field> fields = {
       {"txtGName", "Name", &txtGName},
       {"txtSex", "Gender", &txtSex},
       {"Txt_BC_Date", "Date of Birth", &Txt_BC_Date},
@@ -46,6 +46,8 @@ std::vector<BirthSummary::Field> BirthSummary::Fields() const {
       {"txtRasi", "Rasi", &txtRasi},
       {"txtYogam", "Yogam", &txtYogam},
   };
+  if (!txtClockOffset.empty()) fields.push_back({"txtClockOffset", "Clock Offset", &txtClockOffset});
+  return fields;
 }
 
 namespace {
@@ -216,6 +218,7 @@ void FillBirthSummary(CalculationContext& ctx) {
   const OleDate vedicDay = beforeSunrise ? DateAdd(Interval::Day, -1, b.SummaryMoment) : b.SummaryMoment;
   b.txtVedic = WeekdayName(vedicDay.Weekday());
   b.txtTimeZone = s.BirthTimeZoneName;
+  b.txtClockOffset = s.ClockOffsetNote;
 
   FillCalendarFields(ctx);
 

@@ -28,6 +28,8 @@ struct BirthSummary {
       txtCity, txtCountry, txtLatutude, txtLongitude, txtSunRise, txtSunSet, txtGregorian, txtVedic, txtTimeZone,
       txtKLunarDate, txtSLunarDate, txtKaliyugaYear, txtSolarDate, txtAyana, txtLagna, txtStar, txtTithi, txtPaksha,
       txtKarnam, txtRasi, txtYogam;
+  // The clock offset's reason; listed last, and only when there is one.
+  std::string txtClockOffset;
 
   // (control name, label, text) in the order above.
   struct Field {

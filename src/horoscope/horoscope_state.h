@@ -43,6 +43,10 @@ struct HoroscopeState {
   std::string LonEW = "E";
   double TimeDiff = 0;
   std::string TimeDiffEW = "E";
+  // Why the clock offset is what it is, when it came from the IANA rules of
+  // the place ("Asia/Kolkata: +6:30 on 14/07/1943 (war time)"); empty when
+  // the user gave the offset.
+  std::string ClockOffsetNote;
 
   // Results of one position pass.
   OleDate BirthMomentDate;

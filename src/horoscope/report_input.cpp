@@ -37,6 +37,7 @@ TitlePageValues TitlePageValuesOf(const BirthSummary& b) {
   t.paksha = b.txtPaksha;
   t.yogam = b.txtYogam;
   t.karnam = b.txtKarnam;
+  t.clockOffset = b.txtClockOffset;
   return t;
 }
 

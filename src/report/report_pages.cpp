@@ -150,6 +150,11 @@ void TitlePage(Page& page, const ReportInput& in) {
       line += *fields[i].second;
       page.Line(line);
     }
+    if (g == 0 && !in.title.clockOffset.empty()) {
+      std::string line(kLabelIndent, ' ');
+      AppendField(line, "Clock Offset", kLabelWidth);
+      page.Line(line + ": " + in.title.clockOffset);
+    }
   }
   page.Blank(kTitleBlankLines);
   page.Rule('_', kUnderscoreRule);

@@ -24,6 +24,9 @@ struct TitlePageValues {
       longitude, sunRise, sunSet, ayanamsa;
   std::string vedicDay, gregorianDay, solarDate, lunarSukladiDate, lunarKrishnadiDate, kaliyugaYear, ayana;
   std::string janmaLagna, janmaRasi, star, tithi, paksha, yogam, karnam;
+  // Why the clock offset is what it is, when the IANA rules gave it; a line
+  // of its own under the first group, only when there is one.
+  std::string clockOffset;
 };
 
 inline constexpr int kTitlePageLabelCount = 29;

@@ -1,7 +1,10 @@
 #include "shell/birth_form_dialog.h"
 
 #include <QAction>
+#include <QApplication>
+#include <cmath>
 #include <QComboBox>
+#include <QCompleter>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -9,6 +12,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStringListModel>
 #include <QStyle>
 #include <QToolBar>
 #include <QVBoxLayout>
@@ -23,6 +27,7 @@
 #include "store/chart_store.h"
 #include "store/city_master.h"
 #include "store/country_master.h"
+#include "store/store_error.h"
 #include "store/time_zone_master.h"
 
 namespace kelvaro::shell {
@@ -74,6 +79,15 @@ void BirthFormDialog::BuildControls() {
   am_->setObjectName("Opt_AM");
   pm_ = new QRadioButton("PM", this);
   pm_->setObjectName("Opt_PM");
+  find_ = new QLineEdit(this);
+  find_->setObjectName("txtFindPlace");
+  find_->setPlaceholderText(tr("Type a place's name: Hyderabad, Sao Paulo, ..."));
+  found_ = new QStringListModel(this);
+  completer_ = new QCompleter(found_, this);
+  // The list is the search's own, ranked and without regard to accents.
+  completer_->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
+  completer_->setMaxVisibleItems(12);
+  find_->setCompleter(completer_);
   country_ = MakeCombo(this, "txt_VC_Country", true);
   city_ = MakeCombo(this, "txt_VC_City", true);
   zone_ = MakeCombo(this, "cbTimeZone", true);
@@ -128,6 +142,8 @@ void BirthFormDialog::BuildControls() {
   time->addWidget(pm_);
   time->addStretch(1);
   grid->addLayout(time, row++, 1, 1, 4);
+  label(tr("Find &Place"), find_);
+  grid->addWidget(find_, row++, 1, 1, 3);
   label(tr("Birth C&ountry"), country_);
   grid->addWidget(country_, row++, 1, 1, 3);
   label(tr("Birth C&ity"), city_);
@@ -148,7 +164,7 @@ void BirthFormDialog::BuildControls() {
   buttons->addWidget(cancel_);
   layout->addLayout(buttons);
 
-  const std::vector<QWidget*> order{name_, gender_, day_, month_, year_, hour_, minute_, am_, pm_,
+  const std::vector<QWidget*> order{name_, gender_, day_, month_, year_, hour_, minute_, am_, pm_, find_,
                                     country_, city_, zone_, lat_, lon_, ok_};
   for (size_t i = 0; i + 1 < order.size(); ++i) setTabOrder(order[i], order[i + 1]);
   setTabOrder(ok_, cancel_);
@@ -165,6 +181,12 @@ void BirthFormDialog::BuildControls() {
   connect(zone_, &QComboBox::editTextChanged, this, [this] { zoneKnown_ = false; });
   connect(cityButton_, &QPushButton::clicked, this, &BirthFormDialog::OpenCityMaster);
   connect(zoneButton_, &QPushButton::clicked, this, &BirthFormDialog::OpenTimeZoneMaster);
+  connect(find_, &QLineEdit::textEdited, this, &BirthFormDialog::SearchPlaces);
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+    if (now == find_) LoadPlaces();
+  });
+  connect(completer_, qOverload<const QModelIndex&>(&QCompleter::activated), this,
+          [this](const QModelIndex& index) { ChoosePlace(index.row()); });
   connect(ok_, &QPushButton::clicked, this, &BirthFormDialog::Ok);
   connect(cancel_, &QPushButton::clicked, this, &QDialog::reject);
 }
@@ -291,6 +313,66 @@ void BirthFormDialog::ChooseZone() {
   timeDiff_ = zone->timeDifference;
   timeDiffEW_ = zone->direction;
   zoneKnown_ = true;
+}
+
+bool BirthFormDialog::LoadPlaces() {
+  if (places_) return true;
+  if (!services_.db) return false;
+  try {
+    places_ = std::make_unique<store::PlaceIndex>(store::PlaceIndex::Load(*services_.db));
+  } catch (const store::StoreError& e) {
+    ShowError(this, Qs(e.what()));
+    return false;
+  }
+  return true;
+}
+
+void BirthFormDialog::SearchPlaces(const QString& text) {
+  if (!LoadPlaces()) return;
+  shown_.clear();
+  QStringList items;
+  for (const store::PlaceRecord* p : places_->Find(Std(text.trimmed()), std::nullopt, 20)) {
+    shown_.push_back(*p);
+    items << Qs(p->Label() + "  (" + p->country + ")");
+  }
+  found_->setStringList(items);
+  if (!items.isEmpty()) completer_->complete();
+}
+
+// Degrees and whole minutes, as the form and the chart store keep a place.
+static void DegreesMinutes(double value, double& degrees, double& minutes) {
+  const double a = std::fabs(value);
+  degrees = std::floor(a);
+  minutes = std::round((a - degrees) * 60.0);
+  if (minutes == 60) {
+    degrees += 1;
+    minutes = 0;
+  }
+}
+
+void BirthFormDialog::ChoosePlace(int row) {
+  if (row < 0 || row >= static_cast<int>(shown_.size())) return;
+  const store::PlaceRecord place = shown_[static_cast<size_t>(row)];
+  const int countryItem = country_->findData(QVariant::fromValue<qlonglong>(place.countryId));
+  if (countryItem < 0) return;
+  country_->setCurrentIndex(countryItem);
+  ChooseCountry(false);
+  city_->setEditText(Qs(place.cityId != 0 ? place.name : place.Label()));
+  double latDeg = 0, latMin = 0, lonDeg = 0, lonMin = 0;
+  DegreesMinutes(place.latitude, latDeg, latMin);
+  DegreesMinutes(place.longitude, lonDeg, lonMin);
+  SetPlace(latDeg, place.latitude < 0 ? "S" : "N", latMin, lonDeg, place.longitude < 0 ? "W" : "E", lonMin);
+  placeKnown_ = true;
+  // The country's zone of that name, when its list has one.
+  for (int i = 0; i < zone_->count(); ++i) {
+    if (zone_->itemText(i).startsWith(Qs(place.zoneId + "  ("))) {
+      zone_->setCurrentIndex(i);
+      ChooseZone();
+      break;
+    }
+  }
+  find_->clear();
+  (zoneKnown_ ? static_cast<QWidget*>(ok_) : static_cast<QWidget*>(zone_))->setFocus();
 }
 
 BirthFormFields BirthFormDialog::Fields() const {

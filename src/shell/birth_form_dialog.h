@@ -8,13 +8,18 @@
 #include <QDialog>
 #include <cstdint>
 #include <functional>
+#include <memory>
+#include <vector>
 
 #include "horoscope/birth_form.h"
 #include "store/database.h"
+#include "store/place_search.h"
 #include "store/settings.h"
 
 class QComboBox;
 class QSettings;
+class QCompleter;
+class QStringListModel;
 class QLineEdit;
 class QPushButton;
 class QRadioButton;
@@ -77,6 +82,13 @@ class BirthFormDialog : public QDialog {
   void RefillLists();
   void ChooseCity();
   void ChooseZone();
+  // The place finder: the atlas and the city master searched as the user
+  // types; choosing a place fills the country, city, place and zone.
+  void SearchPlaces(const QString& text);
+  // Reads the places when the finder first takes the focus; false after
+  // showing why it could not.
+  bool LoadPlaces();
+  void ChoosePlace(int row);
   void SetPlace(double latDeg, const std::string& latNS, double latMin, double lonDeg, const std::string& lonEW,
                 double lonMin);
   // The checks and the place, country and zone behind the texts; false after
@@ -103,6 +115,13 @@ class BirthFormDialog : public QDialog {
   QComboBox* minute_;
   QRadioButton* am_;
   QRadioButton* pm_;
+  QLineEdit* find_;
+  QCompleter* completer_;
+  QStringListModel* found_;
+  // Read when the finder first takes the focus, so that neither opening the
+  // form nor a keystroke waits for the whole atlas.
+  std::unique_ptr<store::PlaceIndex> places_;
+  std::vector<store::PlaceRecord> shown_;
   QComboBox* country_;
   QComboBox* city_;
   QComboBox* zone_;

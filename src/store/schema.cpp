@@ -128,6 +128,7 @@ void CreateSchemaVersion1(SQLite::Database& db) {
 const std::vector<Migration>& SchemaMigrations() {
   static const std::vector<Migration> steps = {
       {1, CreateSchemaVersion1},
+      {2, AddAtlasVersion2},
   };
   return steps;
 }

@@ -64,6 +64,8 @@ class DatabaseOpen : public ::testing::Test {
     Database db(path_);
     return withChart ? SaveChart(db, SampleChart("Velnesh")).id : 0;
   }
+  // The backup an upgrade of a file of this version leaves beside it.
+  static std::string Backup() { return "DBMirvaneBasic.db.v" + std::to_string(kSchemaVersion) + ".bak"; }
   TempFolder folder_;
   const std::filesystem::path path_ = folder_ / "DBMirvaneBasic.db";
 };
@@ -105,7 +107,7 @@ TEST_F(DatabaseOpen, CreatesCloseReopensAndKeepsEverything) {
 TEST_F(DatabaseOpen, RefusedCreationsLeaveNothingBehind) {
   const auto inMissing = folder_ / "no-such-folder" / "DBMirvaneBasic.db";
   ExpectStoreError(folder_ / "no-such-folder", "does not exist", [&] { Database db(inMissing); });
-  const OpenOptions broken = WithStep({2, [](SQLite::Database&) { throw std::runtime_error("step two broke"); }});
+  const OpenOptions broken = WithStep({kSchemaVersion + 1, [](SQLite::Database&) { throw std::runtime_error("step two broke"); }});
   ExpectStoreError(path_, "step two broke", [&] { Database db(path_, broken); });
   ExpectStoreError(path_, "does not exist", [&] { Database db(path_, ReadOnly()); });
   ExpectStoreError(folder_.Path(), "is a folder", [&] { Database db(folder_.Path()); });
@@ -133,7 +135,7 @@ TEST_F(DatabaseOpen, ReadOnlyOpenReadsAndRefusesEveryWrite) {
   EXPECT_FALSE(ListCountries(db).empty());
   ExpectStoreError(path_, "read-only", [&] { AddCountry(db, "Atlantis"); });
   ExpectStoreError(path_, "read-only", [&] { SaveChart(db, SampleChart("Velnesh")); });
-  OpenOptions upgrade = WithStep({2, [](SQLite::Database& c) { c.exec("CREATE TABLE Extra (x)"); }});
+  OpenOptions upgrade = WithStep({kSchemaVersion + 1, [](SQLite::Database& c) { c.exec("CREATE TABLE Extra (x)"); }});
   upgrade.readOnly = true;
   ExpectStoreError(path_, "read-only", [&] { Database later(path_, upgrade); });
   EXPECT_EQ(FileBytes(path_), before);
@@ -226,42 +228,42 @@ TEST_F(DatabaseUpgrade, BacksUpThenMigratesInOrder) {
   std::vector<int> ran;
   OpenOptions options;
   options.migrations = SchemaMigrations();
-  options.migrations.push_back({2, [&](SQLite::Database& c) {
-                                  ran.push_back(2);
+  options.migrations.push_back({kSchemaVersion + 1, [&](SQLite::Database& c) {
+                                  ran.push_back(kSchemaVersion + 1);
                                   c.exec("ALTER TABLE ChartSave ADD COLUMN Notes TEXT");
                                   c.exec("UPDATE ChartSave SET Notes = 'from step 2'");
                                 }});
-  options.migrations.push_back({3, [&](SQLite::Database& c) {
-                                  ran.push_back(3);
+  options.migrations.push_back({kSchemaVersion + 2, [&](SQLite::Database& c) {
+                                  ran.push_back(kSchemaVersion + 2);
                                   // Sees the column of step 2, so the steps ran in order.
                                   c.exec("UPDATE ChartSave SET Notes = Notes || ', step 3'");
                                 }});
   {
     Database db(path_, options);
-    EXPECT_EQ(db.SchemaVersion(), 3);
-    EXPECT_EQ(ran, (std::vector<int>{2, 3}));
+    EXPECT_EQ(db.SchemaVersion(), kSchemaVersion + 2);
+    EXPECT_EQ(ran, (std::vector<int>{kSchemaVersion + 1, kSchemaVersion + 2}));
     ASSERT_FALSE(db.BackupPath().empty());
-    EXPECT_EQ(db.BackupPath(), folder_ / "DBMirvaneBasic.db.v1.bak");
+    EXPECT_EQ(db.BackupPath(), folder_ / Backup());
     EXPECT_EQ(FileBytes(db.BackupPath()), version1);
     EXPECT_EQ(db.Connection().execAndGet("SELECT Notes FROM ChartSave").getString(), "from step 2, step 3");
     ASSERT_TRUE(OpenChart(db, chart).has_value());
   }
-  EXPECT_EQ(Pragma(path_, "user_version"), 3);
+  EXPECT_EQ(Pragma(path_, "user_version"), kSchemaVersion + 2);
 
-  // Opened again at version 3: nothing runs, no new backup.
+  // Opened again at the later version: nothing runs, no new backup.
   ran.clear();
   {
     Database db(path_, options);
     EXPECT_TRUE(ran.empty());
     EXPECT_TRUE(db.BackupPath().empty());
   }
-  EXPECT_EQ(folder_.Entries(), (std::vector<std::string>{"DBMirvaneBasic.db", "DBMirvaneBasic.db.v1.bak"}));
+  EXPECT_EQ(folder_.Entries(), (std::vector<std::string>{"DBMirvaneBasic.db", Backup()}));
 }
 
 TEST_F(DatabaseUpgrade, AFailedStepLeavesTheFileAsItWas) {
   const std::int64_t chart = Create(true);
   const std::string before = FileBytes(path_);
-  const OpenOptions options = WithStep({2, [](SQLite::Database& c) {
+  const OpenOptions options = WithStep({kSchemaVersion + 1, [](SQLite::Database& c) {
                                           c.exec("ALTER TABLE ChartSave ADD COLUMN Notes TEXT");
                                           c.exec("DELETE FROM ChartSave");
                                           throw std::runtime_error("step two broke");
@@ -271,7 +273,7 @@ TEST_F(DatabaseUpgrade, AFailedStepLeavesTheFileAsItWas) {
   EXPECT_EQ(folder_.Entries(), std::vector<std::string>{"DBMirvaneBasic.db"});
 
   Database db(path_);
-  EXPECT_EQ(db.SchemaVersion(), 1);
+  EXPECT_EQ(db.SchemaVersion(), kSchemaVersion);
   EXPECT_TRUE(OpenChart(db, chart).has_value());
 }
 

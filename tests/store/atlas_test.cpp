@@ -1,0 +1,172 @@
+// The world atlas: what the migration adds, what it keeps, and the search.
+#include <gtest/gtest.h>
+
+#include <SQLiteCpp/SQLiteCpp.h>
+
+#include <map>
+#include <memory>
+#include <set>
+#include <tuple>
+
+#include "store/city_master.h"
+#include "store/country_master.h"
+#include "store/database.h"
+#include "store/place_search.h"
+#include "store/schema.h"
+#include "store/system_zone_rules.h"
+#include "store_test_support.h"
+
+namespace kelvaro::store {
+namespace {
+
+using testing::TempFolder;
+
+// One new file for the whole suite: making it loads the whole atlas.
+class Atlas : public ::testing::Test {
+ protected:
+  static void SetUpTestSuite() {
+    folder_ = std::make_unique<TempFolder>();
+    db_ = std::make_unique<Database>(*folder_ / "DBMirvaneBasic.db");
+    index_ = std::make_unique<PlaceIndex>(PlaceIndex::Load(*db_));
+  }
+  static void TearDownTestSuite() {
+    index_.reset();
+    db_.reset();
+    folder_.reset();
+  }
+  static long long Count(const std::string& sql) { return db_->Connection().execAndGet(sql).getInt64(); }
+  static std::int64_t CountryId(const char* name) { return CountryByName(*db_, name)->id; }
+
+  static std::unique_ptr<TempFolder> folder_;
+  static std::unique_ptr<Database> db_;
+  static std::unique_ptr<PlaceIndex> index_;
+};
+std::unique_ptr<TempFolder> Atlas::folder_;
+std::unique_ptr<Database> Atlas::db_;
+std::unique_ptr<PlaceIndex> Atlas::index_;
+
+TEST_F(Atlas, CoversTheWorldWithoutDuplicates) {
+  EXPECT_GT(Count("SELECT count(*) FROM Atlas"), 40000);
+  // India's places of 1,000 to 5,000 people are in; elsewhere they are not.
+  EXPECT_GT(Count("SELECT count(*) FROM Atlas JOIN Country_Master USING (CountryID) "
+                  "WHERE CountryName = 'India' AND Population < 5000"),
+            100);
+  EXPECT_EQ(Count("SELECT count(*) FROM Atlas JOIN Country_Master USING (CountryID) "
+                  "WHERE CountryName <> 'India' AND CountryName <> 'Nepal' AND CountryName <> 'Sri Lanka' "
+                  "AND CountryName <> 'Bangladesh' AND CountryName <> 'Pakistan' AND Population < 5000"),
+            0);
+  EXPECT_EQ(Count("SELECT count(*) FROM (SELECT 1 FROM Atlas GROUP BY CountryID, lower(PlaceName), lower(Region) "
+                  "HAVING count(*) > 1)"),
+            0);
+  EXPECT_EQ(Count("SELECT count(*) FROM Atlas WHERE CountryID NOT IN (SELECT CountryID FROM Country_Master)"), 0);
+}
+
+TEST_F(Atlas, EveryZoneIsOneTheSystemKnows) {
+  const SystemZoneRules rules;
+  SQLite::Statement zones(db_->Connection(),
+                          "SELECT DISTINCT ZoneID FROM Atlas UNION SELECT DISTINCT ZoneID FROM City_Master");
+  int count = 0;
+  while (zones.executeStep()) {
+    ASSERT_FALSE(zones.getColumn(0).isNull()) << "a seed city without a zone";
+    EXPECT_TRUE(rules.Knows(zones.getColumn(0).getString())) << zones.getColumn(0).getString();
+    ++count;
+  }
+  EXPECT_GT(count, 300);
+}
+
+TEST_F(Atlas, SearchFindsNamesakesByRegionAndRanksThem) {
+  struct Case {
+    const char* typed;
+    const char* country;  // nullptr: every country
+    const char* firstLabel;
+    const char* firstZone;
+  };
+  const Case cases[] = {
+      {"Hyderabad", nullptr, "Hyderabad, Telangana", "Asia/Kolkata"},
+      {"hyderabad", "Pakistan", "Hyderabad, Sindh", "Asia/Karachi"},
+      {"Hyderabad (", "India", "Hyderabad (A.P)", "Asia/Kolkata"},
+      {"sao pa", nullptr, "São Paulo, São Paulo", "America/Sao_Paulo"},
+      {"ZÜRICH", nullptr, "Zürich, Canton of Zurich", "Europe/Zurich"},
+      {"Lond", "Britain (UK)", "London, England", "Europe/London"},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.typed);
+    const auto found =
+        index_->Find(c.typed, c.country ? std::optional<std::int64_t>(CountryId(c.country)) : std::nullopt);
+    ASSERT_FALSE(found.empty());
+    EXPECT_EQ(found.front()->Label(), c.firstLabel);
+    EXPECT_EQ(found.front()->zoneId, c.firstZone);
+    for (const PlaceRecord* p : found) {
+      EXPECT_EQ(FoldForSearch(p->name).rfind(FoldForSearch(c.typed), 0), 0u) << p->name;
+      if (c.country) {
+        EXPECT_EQ(p->country, c.country);
+      }
+    }
+  }
+  const auto both = index_->Find("Hyderabad");
+  ASSERT_GE(both.size(), 2u);
+  EXPECT_EQ(both[1]->Label(), "Hyderabad, Sindh");
+  EXPECT_EQ(index_->Find("a", std::nullopt, 7).size(), 7u);
+  EXPECT_TRUE(index_->Find("").empty());
+  EXPECT_TRUE(index_->Find("Qqqxz").empty());
+}
+
+TEST(AtlasMigration, KeepsTheCitiesAndNumbersOfAnOlderFile) {
+  TempFolder folder;
+  const auto path = folder / "DBMirvaneBasic.db";
+  OpenOptions version1;
+  version1.migrations = {SchemaMigrations().front()};
+  using Row = std::tuple<std::string, std::int64_t, double, double, std::string>;
+  std::map<std::int64_t, Row> before;
+  std::int64_t mine = 0;
+  {
+    Database db(path, version1);
+    CityInput city{CountryByName(db, "India")->id, "Kelvaro Nagar", "21", "10", "N", "79", "5", "E"};
+    mine = AddCity(db, city).id;
+    ASSERT_GT(mine, 0);
+    SQLite::Statement rows(db.Connection(),
+                           "SELECT CityID, CityName, CountryID, LatitudeDegree, LongitudeMinute, Longitude_EW "
+                           "FROM City_Master");
+    while (rows.executeStep()) {
+      before[rows.getColumn(0).getInt64()] = {rows.getColumn(1).getString(), rows.getColumn(2).getInt64(),
+                                              rows.getColumn(3).getDouble(), rows.getColumn(4).getDouble(),
+                                              rows.getColumn(5).getString()};
+    }
+  }
+  Database db(path);
+  EXPECT_EQ(db.SchemaVersion(), kSchemaVersion);
+  std::map<std::int64_t, Row> after;
+  SQLite::Statement rows(db.Connection(),
+                         "SELECT CityID, CityName, CountryID, LatitudeDegree, LongitudeMinute, Longitude_EW, ZoneID "
+                         "FROM City_Master");
+  std::map<std::string, std::string> zones;
+  while (rows.executeStep()) {
+    after[rows.getColumn(0).getInt64()] = {rows.getColumn(1).getString(), rows.getColumn(2).getInt64(),
+                                           rows.getColumn(3).getDouble(), rows.getColumn(4).getDouble(),
+                                           rows.getColumn(5).getString()};
+    zones[rows.getColumn(1).getString()] = rows.getColumn(6).isNull() ? "" : rows.getColumn(6).getString();
+  }
+  EXPECT_EQ(after, before);
+  EXPECT_EQ(zones["Hyderabad (A.P)"], "Asia/Kolkata");
+  EXPECT_EQ(zones["Kelvaro Nagar"], "");  // the user's own city: the seed data does not know it
+
+  // The search gives it the zone of the nearest atlas place of its country.
+  const PlaceIndex index = PlaceIndex::Load(db);
+  const auto found = index.Find("Kelvaro Nagar");
+  ASSERT_EQ(found.size(), 1u);
+  EXPECT_EQ(found.front()->cityId, mine);
+  EXPECT_EQ(found.front()->zoneId, "Asia/Kolkata");
+  EXPECT_NEAR(found.front()->latitude, 21 + 10 / 60.0, 1e-9);
+}
+
+TEST(AtlasSearchText, FoldsCaseAndLatinAccents) {
+  EXPECT_EQ(FoldForSearch("São Paulo"), "sao paulo");
+  EXPECT_EQ(FoldForSearch("Łódź"), "lodz");
+  EXPECT_EQ(FoldForSearch("ZÜRICH"), "zurich");
+  EXPECT_EQ(FoldForSearch("Ærøskøbing"), "aroskobing");
+  EXPECT_EQ(FoldForSearch("Đà Nẵng"), "da n\xe1\xba\xb5ng");  // a letter past Latin Extended-A stays as it is
+  EXPECT_EQ(FoldForSearch("×"), "×");
+}
+
+}  // namespace
+}  // namespace kelvaro::store
