@@ -6,7 +6,6 @@
 #include <QLineEdit>
 
 #include "shell/chart_view.h"
-#include "shell/details_view.h"
 #include "shell/preferences_dialog.h"
 #include "shell_test_support.h"
 #include "store/preferences.h"
@@ -35,15 +34,7 @@ class PreferencesTest : public ShellTest {
   }
   static QString Shown(QDialog* d, const char* combo) { return d->findChild<QComboBox*>(combo)->currentText(); }
 
-  QString Detail(const char* label) const {
-    const GridModel& model = static_cast<DetailsView*>(window_->View(0))->Table().Model();
-    for (int r = 0; r < model.rowCount(); ++r) {
-      if (model.data(model.index(r, 0), Qt::DisplayRole).toString() == label) {
-        return model.data(model.index(r, 1), Qt::DisplayRole).toString();
-      }
-    }
-    return "(no such field)";
-  }
+  QString Detail(const char* label) const { return testing::DetailsValue(*window_, label); }
   ChartFrame RasiStyle() const { return static_cast<ChartView*>(window_->View(1))->Chart().Picture()->style; }
   store::Preferences Stored() const { return store::ReadPreferences(*window_->Database()); }
 

@@ -18,6 +18,7 @@
 #include <memory>
 #include <vector>
 
+#include "shell/details_view.h"
 #include "shell/main_window.h"
 
 namespace kelvaro::shell::testing {
@@ -69,6 +70,17 @@ W* OpenFromMenu(QWidget& main, const char* entry) {
 // Clicks the button of `window` named `button`; the boxes it opens are answered.
 inline std::vector<SeenBox> Click(QWidget* window, const char* button) {
   return AnswerBoxes([&] { QTest::mouseClick(window->findChild<QPushButton*>(button), Qt::LeftButton); });
+}
+
+// The value beside `label` on the Birth Details view of `window`.
+inline QString DetailsValue(MainWindow& window, const char* label) {
+  const GridModel& model = static_cast<DetailsView*>(window.View(0))->Table().Model();
+  for (int r = 0; r < model.rowCount(); ++r) {
+    if (model.data(model.index(r, 0), Qt::DisplayRole).toString() == label) {
+      return model.data(model.index(r, 1), Qt::DisplayRole).toString();
+    }
+  }
+  return "(no such field)";
 }
 
 class ShellTest : public ::testing::Test {
