@@ -49,17 +49,10 @@ class MastersTest : public ShellTest {
     return master;
   }
 
-  // Types into a field as a user does: a line edit or an editable combo is
-  // cleared first; Enter on a combo chooses the item its text names.
+  // Typed in; Enter on a combo chooses the item its text names.
   static void Enter(QWidget* window, const char* name, const QString& text) {
-    QWidget* w = window->findChild<QWidget*>(name);
-    ASSERT_NE(w, nullptr) << name;
-    w->setFocus();
-    if (auto* e = qobject_cast<QLineEdit*>(w)) e->clear();
-    auto* combo = qobject_cast<QComboBox*>(w);
-    if (combo && combo->isEditable()) combo->clearEditText();
-    QTest::keyClicks(w, text);
-    if (combo) QTest::keyClick(w, Qt::Key_Return);
+    testing::TypeInto(window, name, text);
+    if (auto* combo = window->findChild<QComboBox*>(name)) QTest::keyClick(combo, Qt::Key_Return);
   }
 
   // Each step: the field typed into, then the button pressed.

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QMessageBox>
 #include <QSettings>
@@ -65,6 +66,19 @@ W* OpenFromMenu(QWidget& main, const char* entry) {
   }
   ADD_FAILURE() << "nothing opened from " << entry;
   return nullptr;
+}
+
+// Types into the field of `window` named `name` as a user does: it takes the
+// focus, a line edit or an editable list is cleared first, and a closed list
+// chooses the item whose first letters are typed.
+inline void TypeInto(QWidget* window, const char* name, const QString& text) {
+  QWidget* w = window->findChild<QWidget*>(name);
+  ASSERT_NE(w, nullptr) << name;
+  w->setFocus();
+  if (auto* e = qobject_cast<QLineEdit*>(w)) e->clear();
+  auto* combo = qobject_cast<QComboBox*>(w);
+  if (combo && combo->isEditable()) combo->clearEditText();
+  QTest::keyClicks(w, text);
 }
 
 // Clicks the button of `window` named `button`; the boxes it opens are answered.
