@@ -11,7 +11,7 @@
 
 #include "astronomy/find_planet_position.h"
 #include "cli/cli.h"
-#include "cli/run_tool.h"
+#include "cli/database_folder.h"
 
 namespace kelvaro::cli {
 namespace {
@@ -103,13 +103,10 @@ TEST(PositionsCommand, CustomAyanamsaTakesItsYearAndProgress) {
   EXPECT_EQ(nlohmann::json::parse(r.out)["ayanamsa"].get<double>(), f.FnFindAyanamsa());
 }
 
-class BatchFile : public ::testing::Test {
+class BatchFile : public DatabaseFolder {
  protected:
-  std::filesystem::path path_ = std::filesystem::temp_directory_path() /
-                                ("kelvaro_batch_" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
-                                 "_" + ::testing::UnitTest::GetInstance()->current_test_info()->name() + ".csv");
+  std::filesystem::path path_ = folder_ / "births.csv";
   void Write(const std::string& text) { std::ofstream(path_) << text; }
-  void TearDown() override { std::filesystem::remove(path_); }
 };
 
 TEST_F(BatchFile, GoodRowsPrintInOrderAndBadRowsAreCounted) {
@@ -128,7 +125,7 @@ TEST_F(BatchFile, GoodRowsPrintInOrderAndBadRowsAreCounted) {
   ASSERT_EQ(out.size(), 3u);
   // Order kept: the Lahiri row, the same answer as the sample asked alone,
   // then the KP row of 2000 and the Sayana row.
-  EXPECT_EQ(nlohmann::json::parse(out[0]), nlohmann::json::parse(RunTool(Sample({"--json"})).out));
+  EXPECT_EQ(nlohmann::json::parse(out[0]), nlohmann::json::parse(RunTool(SampleBirth("positions", {"--json"})).out));
   EXPECT_NEAR(nlohmann::json::parse(out[1])["ayanamsa"].get<double>(), -23.76, 0.02);
   EXPECT_EQ(nlohmann::json::parse(out[2])["ayanamsa"].get<double>(), 0.0);
   const auto err = Lines(r.err);
