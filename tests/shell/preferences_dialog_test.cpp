@@ -92,12 +92,8 @@ TEST_F(PreferencesTest, CustomAyanamsaChecksWithTheirFocus) {
     for (const auto& row : rows) {
       TypeInto(d, "txtZero", row.zero);
       TypeInto(d, "txtPogression", row.progression);
-      const auto boxes = Click(d, button);
-      ASSERT_EQ(boxes.size(), 1u) << row.message;
-      EXPECT_EQ(boxes[0].title, "Preferences");
-      EXPECT_EQ(boxes[0].icon, QMessageBox::Information);
-      EXPECT_EQ(boxes[0].text, row.message) << button;
-      EXPECT_EQ(d->focusWidget()->objectName(), row.focus) << row.message;
+      SCOPED_TRACE(button);
+      testing::ExpectCheck(d, button, "Preferences", row.message, row.focus);
     }
   }
   EXPECT_EQ(Stored().ayanamsa, "Lahiri");

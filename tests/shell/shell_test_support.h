@@ -97,6 +97,18 @@ inline QString DetailsValue(MainWindow& window, const char* label) {
   return "(no such field)";
 }
 
+// Presses `button` of `window`: one information box titled `title` must say
+// `message`, and the focus then stand on the field named `focus`.
+inline void ExpectCheck(QWidget* window, const char* button, const QString& title, const char* message,
+                        const char* focus) {
+  const std::vector<SeenBox> boxes = Click(window, button);
+  ASSERT_EQ(boxes.size(), 1u) << message;
+  EXPECT_EQ(boxes[0].text.toStdString(), message);
+  EXPECT_EQ(boxes[0].title, title) << message;
+  EXPECT_EQ(boxes[0].icon, QMessageBox::Information) << message;
+  EXPECT_EQ(window->focusWidget()->objectName().toStdString(), focus) << message;
+}
+
 class ShellTest : public ::testing::Test {
  protected:
   void SetUp() override {
