@@ -5,21 +5,18 @@
 #include <string>
 #include <vector>
 
-#include "cli/run_tool.h"
-#include "store/store_test_support.h"
+#include "cli/database_folder.h"
 
 namespace kelvaro::cli {
 namespace {
 
-class AlmanacCommand : public ::testing::Test {
+class AlmanacCommand : public DatabaseFolder {
  protected:
-  std::string Db() const { return (folder_ / "DBMirvaneBasic.db").string(); }
   Outcome Run(std::vector<std::string> args) const {
     args.insert(args.begin(), "almanac");
     args.insert(args.end(), {"--database", Db()});
     return RunTool(args);
   }
-  store::testing::TempFolder folder_;
 };
 
 TEST_F(AlmanacCommand, CityOfTheDatabaseAndTheSamePlaceByNumbers) {

@@ -6,23 +6,15 @@
 #include <string>
 #include <vector>
 
-#include "cli/run_tool.h"
-#include "store/store_test_support.h"
+#include "cli/database_folder.h"
 
 namespace kelvaro::cli {
 namespace {
 
-class ChartCommand : public ::testing::Test {
- protected:
-  std::vector<std::string> Sample(std::vector<std::string> extra) const {
-    extra.insert(extra.end(), {"--database", (folder_ / "k.db").string()});
-    return SampleBirth("chart", extra);
-  }
-  store::testing::TempFolder folder_;
-};
+using ChartCommand = DatabaseFolder;
 
 TEST_F(ChartCommand, EveryViewAsJson) {
-  const Outcome r = RunTool(Sample({"--json"}));
+  const Outcome r = RunTool(Sample("chart", {"--json"}));
   ASSERT_EQ(r.status, kExitOk) << r.err;
   const auto j = nlohmann::ordered_json::parse(r.out);
   std::vector<std::string> keys;
@@ -43,7 +35,7 @@ TEST_F(ChartCommand, EveryViewAsJson) {
 }
 
 TEST_F(ChartCommand, NorthStyleNumbersTheHouses) {
-  const Outcome r = RunTool(Sample({"--style", "North", "--language", "Sanskrit", "--json"}));
+  const Outcome r = RunTool(Sample("chart", {"--style", "North", "--language", "Sanskrit", "--json"}));
   ASSERT_EQ(r.status, kExitOk) << r.err;
   const auto j = nlohmann::json::parse(r.out);
   EXPECT_EQ(j["rasi_chart"]["frame"], "Frame_NorthBride");
@@ -55,7 +47,8 @@ TEST_F(ChartCommand, NorthStyleNumbersTheHouses) {
 }
 
 TEST_F(ChartCommand, BadChoicesAreRefused) {
-  for (const auto& args : {Sample({"--style", "West"}), Sample({"--bhava", "Placidus"}), Sample({"--days", "365"})}) {
+  for (const auto& args :
+       {Sample("chart", {"--style", "West"}), Sample("chart", {"--bhava", "Placidus"}), Sample("chart", {"--days", "365"})}) {
     const Outcome r = RunTool(args);
     EXPECT_EQ(r.status, kExitBadInput) << r.err;
     EXPECT_TRUE(r.out.empty());

@@ -5,8 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/run_tool.h"
-#include "store/store_test_support.h"
+#include "cli/database_folder.h"
 #include "support/pdf_tools.h"
 
 namespace kelvaro::cli {
@@ -14,16 +13,12 @@ namespace {
 
 using store::testing::FileBytes;
 
-class DrawingCommands : public ::testing::Test {
+class DrawingCommands : public DatabaseFolder {
  protected:
   std::vector<std::string> Sample(const char* command, std::vector<std::string> extra) const {
-    std::vector<std::string> a = {command, "--date", "14/07/1965", "--time", "14:15", "--lat", "17N20", "--lon", "78E30",
-                                  "--tz", "5.5E", "--name", "Velnesh", "--database", (folder_ / "k.db").string()};
-    a.insert(a.end(), extra.begin(), extra.end());
-    return a;
+    extra.insert(extra.begin(), {"--name", "Velnesh"});
+    return DatabaseFolder::Sample(command, extra);
   }
-  std::string Path(const char* name) const { return (folder_ / name).string(); }
-  store::testing::TempFolder folder_;
 };
 
 TEST_F(DrawingCommands, ReportAsPdf) {

@@ -10,7 +10,7 @@
 #include <sstream>
 
 #include "cli/cli.h"
-#include "cli/run_tool.h"
+#include "cli/database_folder.h"
 #include "store/chart_store.h"
 #include "store/country_master.h"
 #include "store/database.h"
@@ -21,7 +21,6 @@ namespace kelvaro::cli {
 namespace {
 
 using store::testing::FileBytes;
-using store::testing::TempFolder;
 
 // "     7  Velnesh~14-Jul-1965\n" for each chart: the number right-aligned in six columns.
 std::string ChartLines(const std::vector<std::pair<std::int64_t, std::string>>& rows) {
@@ -32,10 +31,8 @@ std::string ChartLines(const std::vector<std::pair<std::int64_t, std::string>>& 
 
 bool Contains(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
 
-class StoreCommands : public ::testing::Test {
+class StoreCommands : public DatabaseFolder {
  protected:
-  std::string Db() const { return (folder_ / "DBMirvaneBasic.db").string(); }
-
   // Saves a chart through the store, as the birth form would.
   std::int64_t Save(const std::string& name, const std::string& gender, int hour) {
     store::Database db(Db());
@@ -45,8 +42,6 @@ class StoreCommands : public ::testing::Test {
     f.hour = hour;
     return store::SaveChart(db, f).id;
   }
-
-  TempFolder folder_;
 };
 
 TEST_F(StoreCommands, PlacesOfTheSampleChartAndAnUnknownCountry) {

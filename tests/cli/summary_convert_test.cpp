@@ -5,28 +5,19 @@
 #include <string>
 #include <vector>
 
-#include "cli/run_tool.h"
+#include "cli/database_folder.h"
 #include "store/chart_store.h"
 #include "store/country_master.h"
 #include "store/database.h"
-#include "store/store_test_support.h"
 #include "store/time_zone_master.h"
 
 namespace kelvaro::cli {
 namespace {
 
-class SummaryAndConvert : public ::testing::Test {
- protected:
-  std::string Db() const { return (folder_ / "DBMirvaneBasic.db").string(); }
-  std::vector<std::string> Sample(std::vector<std::string> extra) const {
-    extra.insert(extra.end(), {"--database", Db()});
-    return SampleBirth("summary", extra);
-  }
-  store::testing::TempFolder folder_;
-};
+using SummaryAndConvert = DatabaseFolder;
 
 TEST_F(SummaryAndConvert, SummaryJsonByControlName) {
-  const Outcome r = RunTool(Sample({"--name", "Velnesh", "--city", "Hyderabad (A.P)", "--country", "India",
+  const Outcome r = RunTool(Sample("summary", {"--name", "Velnesh", "--city", "Hyderabad (A.P)", "--country", "India",
                                     "--zone-name", "IST", "--json"}));
   ASSERT_EQ(r.status, kExitOk) << r.err;
   const auto j = nlohmann::ordered_json::parse(r.out);
@@ -42,7 +33,7 @@ TEST_F(SummaryAndConvert, SummaryJsonByControlName) {
 }
 
 TEST_F(SummaryAndConvert, FlagsOverrideThePreferences) {
-  const Outcome r = RunTool(Sample({"--ayanamsa", "Sayana", "--language", "Sanskrit", "--json"}));
+  const Outcome r = RunTool(Sample("summary", {"--ayanamsa", "Sayana", "--language", "Sanskrit", "--json"}));
   ASSERT_EQ(r.status, kExitOk) << r.err;
   const auto j = nlohmann::json::parse(r.out);
   EXPECT_EQ(j["txtAyanamsa"], "0.0.0  (Sayana)");
@@ -58,7 +49,7 @@ TEST_F(SummaryAndConvert, SummaryOfASavedChart) {
   }
   const Outcome saved = RunTool({"summary", "--chart", "1", "--database", Db(), "--json"});
   ASSERT_EQ(saved.status, kExitOk) << saved.err;
-  const Outcome flags = RunTool(Sample({"--json"}));
+  const Outcome flags = RunTool(Sample("summary", {"--json"}));
   const auto a = nlohmann::json::parse(saved.out);
   const auto b = nlohmann::json::parse(flags.out);
   EXPECT_EQ(a["txtGName"], "Velnesh");
@@ -72,15 +63,15 @@ TEST_F(SummaryAndConvert, SummaryOfASavedChart) {
 }
 
 TEST_F(SummaryAndConvert, SummaryBadInput) {
-  EXPECT_EQ(RunTool(Sample({"--language", "Hindi"})).status, kExitBadInput);
-  std::vector<std::string> args = Sample({});
+  EXPECT_EQ(RunTool(Sample("summary", {"--language", "Hindi"})).status, kExitBadInput);
+  std::vector<std::string> args = Sample("summary", {});
   args[2] = "31/02/1965";
   const Outcome r = RunTool(args);
   EXPECT_EQ(r.status, kExitBadInput);
   EXPECT_NE(r.err.find("--date \"31/02/1965\""), std::string::npos) << r.err;
   EXPECT_TRUE(r.out.empty());
   // NameThatIsNotUtf8IsBadInput.
-  const Outcome name = RunTool(Sample({"--name", "Ra\xFFvi"}));
+  const Outcome name = RunTool(Sample("summary", {"--name", "Ra\xFFvi"}));
   EXPECT_EQ(name.status, kExitBadInput);
   EXPECT_EQ(name.err, "kelvaro-cli: --name \"Ra\\xFFvi\": not valid UTF-8 text\n");
 }

@@ -8,7 +8,6 @@
 #include <cmath>
 #include <string>
 
-#include "common/calculation_error.h"
 #include "common/date_text.h"
 #include "horoscope/calculation_context.h"
 
@@ -130,13 +129,6 @@ TEST(ChartPositions, NavamsaPassChangesOnlyTheRasiNumbers) {
   EXPECT_EQ(navamsa.state.SunRasi, 3);
   // Moon 275.4562: the 83rd navamsa, 83 - 72 = 11.
   EXPECT_EQ(navamsa.state.MoonRasi, 11);
-}
-
-TEST(ChartPositions, UnreadableBirthTextIsAnError) {
-  CalculationContext ctx;
-  SetBirth(ctx, 31, 14, 15);
-  ctx.state.BirthMonth = "6";  // 31 June
-  EXPECT_THROW(ComputeChartPositions(ctx, kRasiDivision), CalculationError);
 }
 
 TEST(RasiOfLongitude, BoundariesAndFolding) {

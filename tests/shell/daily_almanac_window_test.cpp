@@ -15,7 +15,7 @@
 namespace kelvaro::shell {
 namespace {
 
-using testing::AnswerBoxes;
+using testing::Click;
 using testing::ShellTest;
 
 QString Value(QTableWidget* table, const QString& item) {
@@ -23,10 +23,6 @@ QString Value(QTableWidget* table, const QString& item) {
     if (table->item(r, 0)->text() == item) return table->item(r, 1)->text();
   }
   return "(no such item)";
-}
-
-void Click(DailyAlmanacWindow* w, const char* button) {
-  QTest::mouseClick(w->findChild<QPushButton*>(button), Qt::LeftButton);
 }
 
 // The sample chart's city is Hyderabad; the user types a date and steps on.
@@ -46,7 +42,7 @@ TEST_F(ShellTest, DailyAlmanacByDateAndTheDayAfter) {
     QTest::keyClicks(date, text);
   }
   ASSERT_EQ(date->date(), QDate(2024, 1, 14)) << date->text().toStdString();
-  const auto boxes = AnswerBoxes([&] { Click(almanac, "cmdShow"); });
+  const auto boxes = Click(almanac, "cmdShow");
   EXPECT_TRUE(boxes.empty());
   EXPECT_EQ(Value(almanac->DayTable(), "Tithi"), "Tritiya, Sukla Paksha (Bright) until 14/01/2024 08:00:59");
   EXPECT_EQ(Value(almanac->DayTable(), "Next tithi"), "Chaturthi until 15/01/2024 05:00:16  (kshaya)");
@@ -80,7 +76,7 @@ TEST_F(ShellTest, DailyAlmanacNamesAMissingCityAndKeepsItsSize) {
   const QString before = Value(almanac->DayTable(), "Tithi");
   almanac->CityBox()->lineEdit()->clear();
   QTest::keyClicks(almanac->CityBox()->lineEdit(), "Atlantis");
-  const auto boxes = AnswerBoxes([&] { Click(almanac, "cmdShow"); });
+  const auto boxes = Click(almanac, "cmdShow");
   ASSERT_EQ(boxes.size(), 1u);
   EXPECT_EQ(boxes[0].title, "Daily Almanac");
   EXPECT_EQ(boxes[0].text, "Select City");

@@ -11,7 +11,6 @@
 
 #include "horoscope/views.h"
 #include "shell/chart_view.h"
-#include "shell/details_view.h"
 #include "shell/table_views.h"
 #include "shell_test_support.h"
 
@@ -19,23 +18,13 @@ namespace kelvaro::shell {
 namespace {
 
 using testing::AnswerBoxes;
+using testing::DetailsValue;
 using testing::ShellTest;
 
 QStringList MenuTexts(const QList<QAction*>& actions) {
   QStringList texts;
   for (const QAction* a : actions) texts << (a->isSeparator() ? "-" : a->text());
   return texts;
-}
-
-QString DetailsValue(MainWindow& window, const char* label) {
-  auto* details = static_cast<DetailsView*>(window.View(0));
-  const GridModel& model = details->Table().Model();
-  for (int r = 0; r < model.rowCount(); ++r) {
-    if (model.data(model.index(r, 0), Qt::DisplayRole).toString() == label) {
-      return model.data(model.index(r, 1), Qt::DisplayRole).toString();
-    }
-  }
-  return "(no such field)";
 }
 
 TEST_F(ShellTest, CaptionMenusAndTree) {

@@ -22,6 +22,7 @@ namespace kelvaro::shell {
 namespace {
 
 using testing::AnswerBoxes;
+using testing::Click;
 using testing::SeenBox;
 using testing::ShellTest;
 
@@ -48,30 +49,17 @@ class MastersTest : public ShellTest {
     return master;
   }
 
-  // Types into a field as a user does: a line edit or an editable combo is
-  // cleared first; Enter on a combo chooses the item its text names.
+  // Typed in; Enter on a combo chooses the item its text names.
   static void Enter(QWidget* window, const char* name, const QString& text) {
-    QWidget* w = window->findChild<QWidget*>(name);
-    ASSERT_NE(w, nullptr) << name;
-    w->setFocus();
-    if (auto* e = qobject_cast<QLineEdit*>(w)) e->clear();
-    auto* combo = qobject_cast<QComboBox*>(w);
-    if (combo && combo->isEditable()) combo->clearEditText();
-    QTest::keyClicks(w, text);
-    if (combo) QTest::keyClick(w, Qt::Key_Return);
-  }
-
-  static std::vector<SeenBox> Press(QWidget* window, const char* button) {
-    auto* b = window->findChild<QPushButton*>(button);
-    EXPECT_NE(b, nullptr) << button;
-    return AnswerBoxes([&] { QTest::mouseClick(b, Qt::LeftButton); });
+    testing::TypeInto(window, name, text);
+    if (auto* combo = window->findChild<QComboBox*>(name)) QTest::keyClick(combo, Qt::Key_Return);
   }
 
   // Each step: the field typed into, then the button pressed.
   static void RunSteps(QWidget* window, const char* button, const QString& caption, const std::vector<Step>& steps) {
     for (const Step& step : steps) {
       if (step.field) Enter(window, step.field, step.text);
-      const std::vector<SeenBox> boxes = Press(window, button);
+      const std::vector<SeenBox> boxes = Click(window, button);
       ASSERT_EQ(boxes.size(), step.messages.size()) << (step.field ? step.field : "") << " " << step.text;
       for (size_t i = 0; i < boxes.size(); ++i) {
         EXPECT_EQ(boxes[i].text, step.messages[i]);
@@ -261,7 +249,7 @@ TEST_F(MastersTest, BirthFormOffersWhatItsMastersAdd) {
                                     {"txtAddLonMin", "35"}, {"cbAddEW", "E"}}) {
     Enter(cityMaster, field, text);
   }
-  EXPECT_EQ(Press(cityMaster, "cmdAddSave").back().text, "City Details Saved");
+  EXPECT_EQ(Click(cityMaster, "cmdAddSave").back().text, "City Details Saved");
   cityMaster->close();
   QApplication::processEvents();
   EXPECT_GE(cities->findText("Bengaluru East"), 0);
@@ -274,7 +262,7 @@ TEST_F(MastersTest, BirthFormOffersWhatItsMastersAdd) {
                                     {"txtAddLAtMin", "30"}, {"cbAddEW", "E"}}) {
     Enter(zoneMaster, field, text);
   }
-  EXPECT_EQ(Press(zoneMaster, "cmdAddSave").back().text, "Details successfully saved");
+  EXPECT_EQ(Click(zoneMaster, "cmdAddSave").back().text, "Details successfully saved");
   QTest::keyClick(zoneMaster, Qt::Key_Escape);
   QApplication::processEvents();
   EXPECT_TRUE(form->isVisible());

@@ -8,6 +8,7 @@
 #include <QApplication>
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QMessageBox>
 #include <QSettings>
@@ -18,6 +19,7 @@
 #include <memory>
 #include <vector>
 
+#include "shell/details_view.h"
 #include "shell/main_window.h"
 
 namespace kelvaro::shell::testing {
@@ -66,9 +68,45 @@ W* OpenFromMenu(QWidget& main, const char* entry) {
   return nullptr;
 }
 
+// Types into the field of `window` named `name` as a user does: it takes the
+// focus, a line edit or an editable list is cleared first, and a closed list
+// chooses the item whose first letters are typed.
+inline void TypeInto(QWidget* window, const char* name, const QString& text) {
+  QWidget* w = window->findChild<QWidget*>(name);
+  ASSERT_NE(w, nullptr) << name;
+  w->setFocus();
+  if (auto* e = qobject_cast<QLineEdit*>(w)) e->clear();
+  auto* combo = qobject_cast<QComboBox*>(w);
+  if (combo && combo->isEditable()) combo->clearEditText();
+  QTest::keyClicks(w, text);
+}
+
 // Clicks the button of `window` named `button`; the boxes it opens are answered.
 inline std::vector<SeenBox> Click(QWidget* window, const char* button) {
   return AnswerBoxes([&] { QTest::mouseClick(window->findChild<QPushButton*>(button), Qt::LeftButton); });
+}
+
+// The value beside `label` on the Birth Details view of `window`.
+inline QString DetailsValue(MainWindow& window, const char* label) {
+  const GridModel& model = static_cast<DetailsView*>(window.View(0))->Table().Model();
+  for (int r = 0; r < model.rowCount(); ++r) {
+    if (model.data(model.index(r, 0), Qt::DisplayRole).toString() == label) {
+      return model.data(model.index(r, 1), Qt::DisplayRole).toString();
+    }
+  }
+  return "(no such field)";
+}
+
+// Presses `button` of `window`: one information box titled `title` must say
+// `message`, and the focus then stand on the field named `focus`.
+inline void ExpectCheck(QWidget* window, const char* button, const QString& title, const char* message,
+                        const char* focus) {
+  const std::vector<SeenBox> boxes = Click(window, button);
+  ASSERT_EQ(boxes.size(), 1u) << message;
+  EXPECT_EQ(boxes[0].text.toStdString(), message);
+  EXPECT_EQ(boxes[0].title, title) << message;
+  EXPECT_EQ(boxes[0].icon, QMessageBox::Information) << message;
+  EXPECT_EQ(window->focusWidget()->objectName().toStdString(), focus) << message;
 }
 
 class ShellTest : public ::testing::Test {
