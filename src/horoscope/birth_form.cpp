@@ -92,6 +92,7 @@ void SetBirthDetails(const BirthFormFields& f, const std::string& hour24, OleDat
   s.LonMin = f.lonMin;
   s.TimeDiff = f.timeDiff;
   s.TimeDiffEW = f.timeDiffEW;
+  s.ClockOffsetNote = f.clockOffsetNote;
 }
 
 void HandOverBirthForm(const BirthFormFields& f, HoroscopeState& s) {

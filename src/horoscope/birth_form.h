@@ -34,6 +34,10 @@ struct BirthFormFields {
   std::string lonEW = "E";
   double timeDiff = 0;
   std::string timeDiffEW = "E";
+  // The place's IANA zone, and why the offset is what it is (birth_offset.h);
+  // both empty when the offset is simply the zone list's.
+  std::string zoneId;
+  std::string clockOffsetNote;
 };
 
 // The caption of the form, the title of its messages.
