@@ -112,6 +112,34 @@ TEST(BirthOffset, OkCalculatesWithTheDecision) {
   EXPECT_EQ(s.ClockOffsetNote, "Asia/Kolkata: +6:30 on 14/07/1943 (war time)");
 }
 
+TEST(BirthOffset, TheChartStoreKeepsTheOffsetItWasCalculatedWith) {
+  BirthFormFields f = Form("10", "Mar", "2024", "01", "30", false, 74, 0, "W");
+  f.timeDiff = 5;
+  f.timeDiffEW = "W";
+  f.zoneId = "America/New_York";
+  f.clockOffsetNote = "America/New_York: -5:00 on 10/03/2024 (standard time)";
+  const store::ChartFields saved = ChartFieldsOf(f, 3, 40);
+  ASSERT_TRUE(saved.clockOffsetHours);
+  EXPECT_DOUBLE_EQ(*saved.clockOffsetHours, -5);
+  EXPECT_EQ(saved.zoneId, "America/New_York");
+
+  store::OpenedChart opened;
+  opened.timeDiff = 5.5;  // the zone row's, which the saved offset overrides
+  opened.clockOffsetHours = -5;
+  opened.clockOffsetNote = saved.clockOffsetNote;
+  opened.zoneId = saved.zoneId;
+  const BirthFormFields back = FormFieldsOf(opened, "USA");
+  EXPECT_DOUBLE_EQ(back.timeDiff, 5);
+  EXPECT_EQ(back.timeDiffEW, "W");
+  EXPECT_EQ(back.clockOffsetNote, f.clockOffsetNote);
+
+  // Without a note the zone row's offset is the chart's, and nothing is kept.
+  f.clockOffsetNote.clear();
+  EXPECT_FALSE(ChartFieldsOf(f, 3, 40).clockOffsetHours);
+  opened.clockOffsetHours.reset();
+  EXPECT_DOUBLE_EQ(FormFieldsOf(opened, "USA").timeDiff, 5.5);
+}
+
 TEST(BirthOffset, HoursText) {
   EXPECT_EQ(HoursText(5.5, "E"), "5.5 E");
   EXPECT_EQ(HoursText(0, "E"), "0 E");
