@@ -483,11 +483,21 @@ void BirthFormDialog::ShowClockOffset() {
   if (savedOffset_) {
     offsetLine_->setText(Qs(savedOffset_->note));
     fold_->hide();
+    FitOffsetLine();
     return;
   }
   const OffsetDecision d = DecideOffset(TypedFields());
   offsetLine_->setText(Qs(d.line));
   fold_->setVisible(d.Ambiguous());
+  FitOffsetLine();
+}
+
+void BirthFormDialog::FitOffsetLine() {
+  // A long line wraps; the form grows to show it whole rather than cut it.
+  if (!layout() || !isVisible()) return;
+  layout()->activate();
+  const int wanted = layout()->totalHeightForWidth(width());
+  if (wanted > height()) resize(width(), wanted);
 }
 
 void BirthFormDialog::ShowFailure(const std::string& field, const std::string& message) {

@@ -108,6 +108,7 @@ class BirthFormDialog : public QDialog {
   // The fields as typed and chosen, with the zone list's offset.
   BirthFormFields TypedFields() const;
   void ShowClockOffset();
+  void FitOffsetLine();
   // The date, time or place changed: a chart's saved offset gives way to
   // the rules again.
   void OffsetInputChanged();
