@@ -31,6 +31,12 @@ start
 xdotool windowfocus --sync "$window" key alt+e
 form=$(timeout 20 xdotool search --sync --name '^Enter Birth Details$' | head -1)
 sleep 1
+# A place from the finder, so that the form shows the clock offset it chose.
+xdotool windowfocus --sync "$form" key alt+p
+xdotool type --delay 80 Kolkata
+sleep 0.7
+xdotool key Down Return
+sleep 0.7
 import -window "$form" "$docs/birth-form.png"
 xdotool windowfocus --sync "$form" key Escape
 sleep 0.5

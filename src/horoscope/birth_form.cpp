@@ -92,6 +92,7 @@ void SetBirthDetails(const BirthFormFields& f, const std::string& hour24, OleDat
   s.LonMin = f.lonMin;
   s.TimeDiff = f.timeDiff;
   s.TimeDiffEW = f.timeDiffEW;
+  s.ClockOffsetNote = f.clockOffsetNote;
 }
 
 void HandOverBirthForm(const BirthFormFields& f, HoroscopeState& s) {
@@ -122,6 +123,12 @@ store::ChartFields ChartFieldsOf(const BirthFormFields& f, std::int64_t countryI
   c.lonEW = f.lonEW;
   c.lonMin = f.lonMin;
   c.zoneSno = zoneSno;
+  if (!f.clockOffsetNote.empty()) {
+    c.clockOffsetHours = f.timeDiffEW == "W" ? -f.timeDiff : f.timeDiff;
+    c.clockOffsetNote = f.clockOffsetNote;
+    c.clockOffsetByUser = f.offsetByUser;
+  }
+  c.zoneId = f.zoneId;
   return c;
 }
 
@@ -146,6 +153,13 @@ BirthFormFields FormFieldsOf(const store::OpenedChart& chart, const std::string&
   f.lonEW = chart.lonEW;
   f.timeDiff = chart.timeDiff;
   f.timeDiffEW = chart.timeDiffEW;
+  f.zoneId = chart.zoneId;
+  if (chart.clockOffsetHours) {
+    f.timeDiff = std::fabs(*chart.clockOffsetHours);
+    f.timeDiffEW = *chart.clockOffsetHours < 0 ? "W" : "E";
+    f.clockOffsetNote = chart.clockOffsetNote;
+    f.offsetByUser = chart.clockOffsetByUser;
+  }
   return f;
 }
 

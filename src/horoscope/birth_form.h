@@ -34,6 +34,11 @@ struct BirthFormFields {
   std::string lonEW = "E";
   double timeDiff = 0;
   std::string timeDiffEW = "E";
+  // The place's IANA zone, and why the offset is what it is (birth_offset.h);
+  // both empty when the offset is simply the zone list's.
+  std::string zoneId;
+  std::string clockOffsetNote;
+  bool offsetByUser = false;  // the zone list's offset overruled the rules
 };
 
 // The caption of the form, the title of its messages.
@@ -63,11 +68,13 @@ std::string TwentyFourHourText(const std::string& hour, bool pm);
 void HandOverBirthForm(const BirthFormFields& form, HoroscopeState& state);
 
 // What the chart store keeps of the form; the country and the zone go by the
-// ids of the chosen list items.
+// ids of the chosen list items. The offset is kept with its note when it has
+// one, that is when the rules or the user's overrule of them chose it.
 store::ChartFields ChartFieldsOf(const BirthFormFields& form, std::int64_t countryId, std::int64_t zoneSno);
 
 // A saved chart as the form shows it on opening. The country is named by the
-// caller, who chose it by its id.
+// caller, who chose it by its id. A chart saved with its offset comes back
+// with that offset and note, not with its zone row's.
 BirthFormFields FormFieldsOf(const store::OpenedChart& chart, const std::string& countryName);
 
 // The eighteen "Horo" keys that a save writes, from the form.

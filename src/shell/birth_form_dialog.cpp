@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCheckBox>
 #include <cmath>
 #include <QComboBox>
 #include <QCompleter>
@@ -92,6 +93,20 @@ void BirthFormDialog::BuildControls() {
   city_ = MakeCombo(this, "txt_VC_City", true);
   zone_ = MakeCombo(this, "cbTimeZone", true);
   zone_->setMinimumContentsLength(28);
+  offsetLine_ = new QLabel(this);
+  offsetLine_->setObjectName("lblClockOffset");
+  offsetLine_->setWordWrap(true);
+  offsetLine_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  autoOffset_ = new QCheckBox(tr("&Automatic offset"), this);
+  autoOffset_->setObjectName("chkAutoOffset");
+  autoOffset_->setChecked(true);
+  autoOffset_->setToolTip(
+      tr("The offset in force at the place, date and time by the rules of its zone. Clear it to calculate with the "
+         "chosen zone's offset."));
+  fold_ = MakeCombo(this, "cbClockFold", false);
+  fold_->addItems({tr("Earlier reading"), tr("Later reading")});
+  fold_->setToolTip(tr("The clocks went back over this time, so it happened twice: which of the two it was"));
+  fold_->hide();
   cityButton_ = new QPushButton("+", this);
   cityButton_->setObjectName("cmdadd");
   zoneButton_ = new QPushButton("?", this);
@@ -152,6 +167,12 @@ void BirthFormDialog::BuildControls() {
   label(tr("Time &Zone"), zone_);
   grid->addWidget(zone_, row, 1, 1, 3);
   grid->addWidget(zoneButton_, row++, 4);
+  grid->addWidget(offsetLine_, row++, 1, 1, 4);
+  auto* offset = new QHBoxLayout;
+  offset->addWidget(autoOffset_);
+  offset->addWidget(fold_);
+  offset->addStretch(1);
+  grid->addLayout(offset, row++, 1, 1, 4);
   label(tr("Latitude"), lat_);
   grid->addWidget(lat_, row++, 1);
   label(tr("Longitude"), lon_);
@@ -165,7 +186,7 @@ void BirthFormDialog::BuildControls() {
   layout->addLayout(buttons);
 
   const std::vector<QWidget*> order{name_, gender_, day_, month_, year_, hour_, minute_, am_, pm_, find_,
-                                    country_, city_, zone_, lat_, lon_, ok_};
+                                    country_, city_, zone_, autoOffset_, fold_, lat_, lon_, ok_};
   for (size_t i = 0; i + 1 < order.size(); ++i) setTabOrder(order[i], order[i + 1]);
   setTabOrder(ok_, cancel_);
   // Enter from either of AM and PM goes on to the country, as does Tab from
@@ -175,10 +196,29 @@ void BirthFormDialog::BuildControls() {
 
   connect(country_, &QComboBox::activated, this, [this] { ChooseCountry(); });
   connect(city_, &QComboBox::activated, this, [this] { ChooseCity(); });
-  connect(zone_, &QComboBox::activated, this, [this] { ChooseZone(); });
+  connect(zone_, &QComboBox::activated, this, [this] {
+    // Another zone than the one chosen before overrules the rules; the first
+    // choice, or Enter on the same one, does not.
+    const bool known = zoneKnown_;
+    const std::int64_t before = ZoneSno();
+    ChooseZone();
+    if (known && zoneKnown_ && ZoneSno() != before && !zoneId_.empty()) autoOffset_->setChecked(false);
+    OffsetInputChanged();
+  });
   // Typing another text than the chosen item's unsets what it chose.
-  connect(city_, &QComboBox::editTextChanged, this, [this] { placeKnown_ = false; });
+  connect(city_, &QComboBox::editTextChanged, this, [this] {
+    placeKnown_ = false;
+    SetZoneId({});
+  });
   connect(zone_, &QComboBox::editTextChanged, this, [this] { zoneKnown_ = false; });
+  // The line edits' own signal: the type-ahead completes a text with the
+  // combo's signals blocked.
+  for (QComboBox* c : {day_, month_, year_, hour_, minute_}) {
+    connect(c->lineEdit(), &QLineEdit::textChanged, this, &BirthFormDialog::OffsetInputChanged);
+  }
+  connect(pm_, &QRadioButton::toggled, this, &BirthFormDialog::OffsetInputChanged);
+  connect(autoOffset_, &QCheckBox::toggled, this, &BirthFormDialog::OffsetInputChanged);
+  connect(fold_, &QComboBox::currentIndexChanged, this, &BirthFormDialog::OffsetInputChanged);
   connect(cityButton_, &QPushButton::clicked, this, &BirthFormDialog::OpenCityMaster);
   connect(zoneButton_, &QPushButton::clicked, this, &BirthFormDialog::OpenTimeZoneMaster);
   connect(find_, &QLineEdit::textEdited, this, &BirthFormDialog::SearchPlaces);
@@ -303,6 +343,7 @@ void BirthFormDialog::ChooseCity() {
   if (!city) return;
   SetPlace(city->latDeg, city->latNS, city->latMin, city->lonDeg, city->lonEW, city->lonMin);
   placeKnown_ = true;
+  SetZoneId(city->zoneId);
 }
 
 void BirthFormDialog::ChooseZone() {
@@ -313,6 +354,7 @@ void BirthFormDialog::ChooseZone() {
   timeDiff_ = zone->timeDifference;
   timeDiffEW_ = zone->direction;
   zoneKnown_ = true;
+  ShowClockOffset();
 }
 
 bool BirthFormDialog::LoadPlaces() {
@@ -363,6 +405,7 @@ void BirthFormDialog::ChoosePlace(int row) {
   DegreesMinutes(place.longitude, lonDeg, lonMin);
   SetPlace(latDeg, place.latitude < 0 ? "S" : "N", latMin, lonDeg, place.longitude < 0 ? "W" : "E", lonMin);
   placeKnown_ = true;
+  SetZoneId(place.zoneId);
   // The country's zone of that name, when its list has one.
   for (int i = 0; i < zone_->count(); ++i) {
     if (zone_->itemText(i).startsWith(Qs(place.zoneId + "  ("))) {
@@ -372,10 +415,31 @@ void BirthFormDialog::ChoosePlace(int row) {
     }
   }
   find_->clear();
+  ShowClockOffset();
   (zoneKnown_ ? static_cast<QWidget*>(ok_) : static_cast<QWidget*>(zone_))->setFocus();
 }
 
 BirthFormFields BirthFormDialog::Fields() const {
+  BirthFormFields f = TypedFields();
+  if (savedOffset_) {
+    f.timeDiff = savedOffset_->timeDiff;
+    f.timeDiffEW = savedOffset_->timeDiffEW;
+    f.clockOffsetNote = savedOffset_->note;
+    f.offsetByUser = savedOffset_->byUser;
+    return f;
+  }
+  const OffsetDecision d = DecideOffset(f);
+  ApplyOffsetDecision(d, f);
+  f.offsetByUser = d.overruled && d.rules.has_value();
+  return f;
+}
+
+OffsetDecision BirthFormDialog::DecideOffset(const BirthFormFields& typed) const {
+  return DecideBirthOffset(typed, zoneId_, !zoneId_.empty() && !autoOffset_->isChecked(),
+                           fold_->currentIndex() == 1 ? Fold::Later : Fold::Earlier, rules_);
+}
+
+BirthFormFields BirthFormDialog::TypedFields() const {
   BirthFormFields f;
   f.name = Std(name_->text());
   f.gender = Std(gender_->currentText());
@@ -396,7 +460,44 @@ BirthFormFields BirthFormDialog::Fields() const {
   f.lonEW = lonEW_;
   f.timeDiff = timeDiff_;
   f.timeDiffEW = timeDiffEW_;
+  f.zoneId = zoneId_;
   return f;
+}
+
+void BirthFormDialog::SetZoneId(const std::string& zoneId) {
+  if (zoneId == zoneId_) return;
+  zoneId_ = zoneId;
+  // A new place starts from its rules again.
+  autoOffset_->setChecked(true);
+  fold_->setCurrentIndex(0);
+  OffsetInputChanged();
+}
+
+void BirthFormDialog::OffsetInputChanged() {
+  savedOffset_.reset();
+  ShowClockOffset();
+}
+
+void BirthFormDialog::ShowClockOffset() {
+  autoOffset_->setEnabled(!zoneId_.empty());
+  if (savedOffset_) {
+    offsetLine_->setText(Qs(savedOffset_->note));
+    fold_->hide();
+    FitOffsetLine();
+    return;
+  }
+  const OffsetDecision d = DecideOffset(TypedFields());
+  offsetLine_->setText(Qs(d.line));
+  fold_->setVisible(d.Ambiguous());
+  FitOffsetLine();
+}
+
+void BirthFormDialog::FitOffsetLine() {
+  // A long line wraps; the form grows to show it whole rather than cut it.
+  if (!layout() || !isVisible()) return;
+  layout()->activate();
+  const int wanted = layout()->totalHeightForWidth(width());
+  if (wanted > height()) resize(width(), wanted);
 }
 
 void BirthFormDialog::ShowFailure(const std::string& field, const std::string& message) {
@@ -468,6 +569,8 @@ void BirthFormDialog::New() {
   // A new chart: a later save inserts and never overwrites the one opened before.
   userId_ = 0;
   openedZoneSno_ = 0;
+  SetZoneId({});
+  OffsetInputChanged();
   name_->setFocus();
 }
 
@@ -512,9 +615,14 @@ void BirthFormDialog::OpenChart(std::int64_t sno) {
     } else {
       zone_->setEditText(Qs(f.zone));
     }
-    timeDiff_ = f.timeDiff;
-    timeDiffEW_ = f.timeDiffEW;
     zoneKnown_ = !f.zone.empty();
+    SetZoneId(f.zoneId);
+    autoOffset_->setChecked(!f.offsetByUser);
+    // The zone row's offset, under the saved one when the chart kept one.
+    timeDiff_ = chart->timeDiff;
+    timeDiffEW_ = chart->timeDiffEW;
+    if (!f.clockOffsetNote.empty()) savedOffset_ = SavedOffset{f.timeDiff, f.timeDiffEW, f.clockOffsetNote, f.offsetByUser};
+    ShowClockOffset();
   } catch (const std::exception& e) {
     ShowError(this, Qs(e.what()));
   }
@@ -557,6 +665,10 @@ void BirthFormDialog::RefillLists() {
   const std::int64_t zoneSno = zoneKnown_ ? ZoneSno() : 0;
   const bool placeKnown = placeKnown_;
   const bool zoneKnown = zoneKnown_;
+  const std::string zoneId = zoneId_;
+  const bool automatic = autoOffset_->isChecked();
+  const int fold = fold_->currentIndex();
+  const std::optional<SavedOffset> saved = savedOffset_;
   try {
     FillCountries();
     const int countryItem = country_->findData(QVariant::fromValue<qlonglong>(countryId));
@@ -578,6 +690,12 @@ void BirthFormDialog::RefillLists() {
       zone_->setEditText(zoneText);
       zoneKnown_ = zoneKnown;
     }
+    // The place, its offset and the user's say over it stay as they were.
+    SetZoneId(zoneId);
+    autoOffset_->setChecked(automatic);
+    fold_->setCurrentIndex(fold);
+    savedOffset_ = saved;
+    ShowClockOffset();
   } catch (const std::exception& e) {
     ShowError(this, Qs(e.what()));
   }

@@ -9,14 +9,19 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "horoscope/birth_form.h"
+#include "horoscope/birth_offset.h"
 #include "store/database.h"
 #include "store/place_search.h"
 #include "store/settings.h"
+#include "store/system_zone_rules.h"
 
+class QCheckBox;
 class QComboBox;
+class QLabel;
 class QSettings;
 class QCompleter;
 class QStringListModel;
@@ -97,6 +102,17 @@ class BirthFormDialog : public QDialog {
   void ShowFailure(const std::string& field, const std::string& message);
   std::int64_t CountryId() const;
   std::int64_t ZoneSno() const;
+  // The clock offset of the place's IANA zone at the form's date and time,
+  // unless the user overruled it; shown under the zone at every change.
+  OffsetDecision DecideOffset(const BirthFormFields& typed) const;
+  // The fields as typed and chosen, with the zone list's offset.
+  BirthFormFields TypedFields() const;
+  void ShowClockOffset();
+  void FitOffsetLine();
+  // The date, time or place changed: a chart's saved offset gives way to
+  // the rules again.
+  void OffsetInputChanged();
+  void SetZoneId(const std::string& zoneId);
 
   Services services_;
   std::int64_t userId_ = 0;
@@ -105,6 +121,16 @@ class BirthFormDialog : public QDialog {
   bool zoneKnown_ = false;
   double latDeg_ = 0, latMin_ = 0, lonDeg_ = 0, lonMin_ = 0, timeDiff_ = 0;
   std::string latNS_ = "N", lonEW_ = "E", timeDiffEW_ = "E";
+  std::string zoneId_;  // the place's IANA zone; empty when it has none
+  // The offset an opened chart was saved with, shown and used until the
+  // date, time or place changes.
+  struct SavedOffset {
+    double timeDiff = 0;
+    std::string timeDiffEW, note;
+    bool byUser = false;
+  };
+  std::optional<SavedOffset> savedOffset_;
+  store::SystemZoneRules rules_;
 
   QLineEdit* name_;
   QComboBox* gender_;
@@ -125,6 +151,9 @@ class BirthFormDialog : public QDialog {
   QComboBox* country_;
   QComboBox* city_;
   QComboBox* zone_;
+  QLabel* offsetLine_;
+  QCheckBox* autoOffset_;
+  QComboBox* fold_;
   QPushButton* cityButton_;
   QPushButton* zoneButton_;
   QLineEdit* lat_;

@@ -23,8 +23,8 @@ void BindZone(SQLite::Statement& s, int index, std::int64_t zoneSno) {
   }
 }
 
-// Binds the seventeen stored fields of a chart, from `ChartName` to
-// `TimeDifference`, in the column order of both the insert and the update.
+// Binds the twenty-one stored fields of a chart, from `ChartName` to
+// `ClockOffsetByUser`, in the column order of both the insert and the update.
 void BindChartColumns(SQLite::Statement& st, const std::string& chartName, const ChartFields& f, OleDate date,
                       int second) {
   st.bind(1, chartName);
@@ -44,6 +44,14 @@ void BindChartColumns(SQLite::Statement& st, const std::string& chartName, const
   st.bind(15, f.lonEW);
   st.bind(16, f.lonMin);
   BindZone(st, 17, f.zoneSno);
+  if (f.clockOffsetHours) {
+    st.bind(18, *f.clockOffsetHours);
+  } else {
+    st.bind(18);
+  }
+  st.bind(19, f.clockOffsetNote);
+  st.bind(20, f.zoneId);
+  st.bind(21, f.clockOffsetByUser ? 1 : 0);
 }
 
 }  // namespace
@@ -70,8 +78,9 @@ WriteResult SaveChart(Database& db, const ChartFields& f) {
     SQLite::Statement insert(c,
                              "INSERT INTO ChartSave (ChartName, Gender, Country, City, ChartDay, ChartMonth, ChartYear, "
                              "ChartHour, ChartMinute, ChartSecond, LatitudeDegree, Latitude_NS, LatitudeMinute, "
-                             "LongitudeDegree, Longitude_EW, LongitudeMinute, TimeDifference) "
-                             "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)");
+                             "LongitudeDegree, Longitude_EW, LongitudeMinute, TimeDifference, ClockOffsetHours, "
+                             "ClockOffsetNote, ZoneID, ClockOffsetByUser) "
+                             "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)");
     BindChartColumns(insert, ChartNameOf(name, FormatDate(*date, "dd"), FormatDate(*date, "mmm"), FormatDate(*date, "yyyy")),
                      f, *date, f.second);
     insert.exec();
@@ -119,7 +128,8 @@ std::optional<OpenedChart> OpenChart(Database& db, std::int64_t sno) {
     SQLite::Statement q(c,
                         "SELECT Sno, ChartName, Gender, Country, City, ChartDay, ChartMonth, ChartYear, ChartHour, "
                         "ChartMinute, LatitudeDegree, Latitude_NS, LatitudeMinute, LongitudeDegree, Longitude_EW, "
-                        "LongitudeMinute, TimeDifference FROM ChartSave WHERE Sno = ?");
+                        "LongitudeMinute, TimeDifference, ClockOffsetHours, ClockOffsetNote, ZoneID, ClockOffsetByUser "
+                        "FROM ChartSave WHERE Sno = ?");
     q.bind(1, sno);
     if (!q.executeStep()) return;
     OpenedChart o;
@@ -143,6 +153,10 @@ std::optional<OpenedChart> OpenChart(Database& db, std::int64_t sno) {
     o.latText = PlaceText(o.latDeg, o.latNS, o.latMin);
     o.lonText = PlaceText(o.lonDeg, o.lonEW, o.lonMin);
     if (!q.getColumn(16).isNull()) o.zoneSno = q.getColumn(16).getInt64();
+    if (!q.getColumn(17).isNull()) o.clockOffsetHours = ColumnNumber(q.getColumn(17));
+    if (!q.getColumn(18).isNull()) o.clockOffsetNote = q.getColumn(18).getString();
+    if (!q.getColumn(19).isNull()) o.zoneId = q.getColumn(19).getString();
+    o.clockOffsetByUser = !q.getColumn(20).isNull() && q.getColumn(20).getInt() != 0;
     opened = std::move(o);
   });
   if (opened && opened->zoneSno) {
@@ -164,10 +178,11 @@ WriteResult UpdateChart(Database& db, std::int64_t sno, const ChartFields& f) {
                              "UPDATE ChartSave SET ChartName = ?, Gender = ?, Country = ?, City = ?, ChartDay = ?, "
                              "ChartMonth = ?, ChartYear = ?, ChartHour = ?, ChartMinute = ?, ChartSecond = ?, "
                              "LatitudeDegree = ?, Latitude_NS = ?, LatitudeMinute = ?, LongitudeDegree = ?, "
-                             "Longitude_EW = ?, LongitudeMinute = ?, TimeDifference = ? WHERE Sno = ?");
+                             "Longitude_EW = ?, LongitudeMinute = ?, TimeDifference = ?, ClockOffsetHours = ?, "
+                             "ClockOffsetNote = ?, ZoneID = ?, ClockOffsetByUser = ? WHERE Sno = ?");
     // An update stores the seconds as "00".
     BindChartColumns(update, ChartNameOf(Trim(f.name), Trim(f.day), Trim(f.month), Trim(f.year)), f, *date, 0);
-    update.bind(18, sno);
+    update.bind(22, sno);
     if (update.exec() == 0) {
       throw StoreError("Cannot update chart " + std::to_string(sno) + " in \"" + db.Path().string() +
                        "\": it no longer exists");

@@ -34,6 +34,13 @@ struct ChartFields {
   std::string lonEW;
   double lonMin = 0.0;
   std::int64_t zoneSno = 0;  // SNo of the chosen TimeZone row; 0 for none
+  // The offset the chart was calculated with, in hours east, when it came
+  // from the zone's rules or overruled them; nothing when it is the zone
+  // row's. The note says why, zoneId names the place's IANA zone.
+  std::optional<double> clockOffsetHours;
+  std::string clockOffsetNote;
+  std::string zoneId;
+  bool clockOffsetByUser = false;
 };
 
 // "Velnesh~14-Jul-1965": the name, "~" and the birth date.
@@ -88,6 +95,12 @@ struct OpenedChart {
   std::string zoneText;                 // "Asia/Kolkata  (5.5 hrs E)"; empty without a zone row
   double timeDiff = 0.0;
   std::string timeDiffEW;
+  // As saved (ChartFields); nothing and empty for a chart saved before they
+  // were kept.
+  std::optional<double> clockOffsetHours;
+  std::string clockOffsetNote;
+  std::string zoneId;
+  bool clockOffsetByUser = false;
 };
 
 // The hour of a 24-hour clock on the form's 12-hour clock. Noon is 12 PM and

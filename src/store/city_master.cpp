@@ -10,7 +10,7 @@ namespace {
 
 constexpr const char* kColumns =
     "SELECT CityID, CityName, CountryID, LatitudeDegree, Latitude_NS, LatitudeMinute, LongitudeDegree, Longitude_EW, "
-    "LongitudeMinute FROM City_Master ";
+    "LongitudeMinute, ZoneID FROM City_Master ";
 
 CityRow RowOf(SQLite::Statement& q) {
   CityRow r;
@@ -23,6 +23,7 @@ CityRow RowOf(SQLite::Statement& q) {
   r.lonDeg = ColumnNumber(q.getColumn(6));
   r.lonEW = q.getColumn(7).getString();
   r.lonMin = ColumnNumber(q.getColumn(8));
+  if (!q.getColumn(9).isNull()) r.zoneId = q.getColumn(9).getString();
   return r;
 }
 

@@ -23,6 +23,7 @@ struct CityRow {
   double lonDeg = 0.0;
   std::string lonEW;
   double lonMin = 0.0;
+  std::string zoneId;  // IANA name; empty for a city added without one
 };
 
 // The cities of a country, ordered by name (without regard to case).

@@ -120,6 +120,14 @@ CREATE TABLE tempdasasandhi (
 
 }  // namespace
 
+void AddClockOffsetVersion3(SQLite::Database& db) {
+  db.exec(
+      "ALTER TABLE ChartSave ADD COLUMN ClockOffsetHours REAL;"
+      "ALTER TABLE ChartSave ADD COLUMN ClockOffsetNote TEXT;"
+      "ALTER TABLE ChartSave ADD COLUMN ZoneID TEXT;"
+      "ALTER TABLE ChartSave ADD COLUMN ClockOffsetByUser INTEGER;");
+}
+
 void CreateSchemaVersion1(SQLite::Database& db) {
   db.exec(kVersion1);
   LoadSeedData(db);
@@ -129,6 +137,7 @@ const std::vector<Migration>& SchemaMigrations() {
   static const std::vector<Migration> steps = {
       {1, CreateSchemaVersion1},
       {2, AddAtlasVersion2},
+      {3, AddClockOffsetVersion3},
   };
   return steps;
 }
