@@ -1,8 +1,8 @@
 #pragma once
 // The two lunar dates of a birth: Krishnadi (the month ends at the full moon)
 // and Sukladi (the month ends at the new moon). Neither comes from a table:
-// the clock is walked hour by hour, with the Sun and Moon worked out at every
-// step, until the tithi sought begins or ends.
+// the clock is walked hour by hour until the tithi sought begins or ends, with
+// the Sun and Moon worked out at every step that could change what is sought.
 //
 // One routine serves both reckonings; LunarReckoning holds what differs. The
 // calendar keeps state between births on purpose: the Krishnadi date reads
@@ -102,6 +102,11 @@ class LunarCalendar {
   std::int16_t AmavasyaCount(OleDate birth, const LunarCalendarInputs& inputs);
   std::int16_t MonthEndCount(const LunarReckoning& reckoning, OleDate birth, const LunarCalendarInputs& inputs);
 
+  // The walks step over the hours in which neither the tithi nor the Sun's
+  // sign can change without working the positions out; true works out every
+  // hour (the slow walk, kept to check the quick one against).
+  bool hourByHour = false;
+
   // State after the last call.
   const LunarDate& Krishnadi() const { return krishnadi_; }
   const LunarDate& Sukladi() const { return sukladi_; }
@@ -129,6 +134,7 @@ class LunarCalendar {
 
   SunMoon PositionsAt(OleDate moment, const LunarCalendarInputs& inputs);
   TithiAt TithiOf(OleDate moment, const LunarCalendarInputs& inputs);
+  int Steady(const SunMoon& at, const LunarCalendarInputs& inputs) const;
   OleDate NextBrightPratipada(OleDate from, const LunarReckoning& reckoning, const LunarCalendarInputs& inputs);
   double& KeptSun(const LunarReckoning& reckoning);
   LunarDate& Result(LunarReckoning::Which which);
