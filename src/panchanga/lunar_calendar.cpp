@@ -196,11 +196,57 @@ LunarCalendar::LunarCalendar(ClsFindPlanetPosition& positions, clsTithi& tithi, 
                              clsFindSunSet& sunset, const KaliyugaYearTable& table)
     : positions_(positions), tithi_(tithi), sunrise_(sunrise), sunset_(sunset), table_(table) {}
 
+namespace {
+
+bool SameInputs(const LunarCalendarInputs& a, const LunarCalendarInputs& b) {
+  const CalendarPlace& p = a.place;
+  const CalendarPlace& q = b.place;
+  return p.latNS == q.latNS && p.latDeg == q.latDeg && p.latMin == q.latMin && p.lonEW == q.lonEW &&
+         p.lonDeg == q.lonDeg && p.lonMin == q.lonMin && p.zoneHours == q.zoneHours && p.zoneSide == q.zoneSide &&
+         a.ayanamsa == b.ayanamsa && a.customYear == b.customYear && a.customProgress == b.customProgress;
+}
+
+// Enough for the walks of some days at one place; past it the memo starts
+// afresh rather than grow without end.
+constexpr size_t kMemoLimit = 20000;
+
+}  // namespace
+
 LunarCalendar::SunMoon LunarCalendar::PositionsAt(OleDate moment, const LunarCalendarInputs& in) {
+  // The two reckonings, and the days next to each other, walk over the same
+  // hours: the positions of a moment already worked out at these inputs are
+  // taken from the memo.
+  if (!hourByHour) {
+    if (!memoValid_ || !SameInputs(memoInputs_, in) || memo_.size() >= kMemoLimit) {
+      memo_.clear();
+      memoInputs_ = in;
+      memoValid_ = true;
+    }
+    const auto hit = memo_.find(moment.Linear());
+    if (hit != memo_.end()) {
+      facadeCurrent_ = false;
+      lastMoment_ = moment;
+      return hit->second;
+    }
+  }
   const CalendarPlace& p = in.place;
   positions_.FindSunMoonValues(moment, p.latNS, p.latDeg, p.latMin, p.lonEW, p.lonDeg, p.lonMin, p.zoneHours,
                                p.zoneSide, 0, in.ayanamsa, in.customYear, in.customProgress);
-  return {positions_.FnFindSunPosition(), positions_.FnFindMoonPosition()};
+  const SunMoon at{positions_.FnFindSunPosition(), positions_.FnFindMoonPosition()};
+  if (!hourByHour) memo_.emplace(moment.Linear(), at);
+  facadeCurrent_ = true;
+  lastMoment_ = moment;
+  return at;
+}
+
+// The facade is left as a walk without the memo leaves it: holding the
+// positions of the last moment asked for.
+void LunarCalendar::SettleFacade(const LunarCalendarInputs& in) {
+  if (facadeCurrent_) return;
+  const CalendarPlace& p = in.place;
+  positions_.FindSunMoonValues(lastMoment_, p.latNS, p.latDeg, p.latMin, p.lonEW, p.lonDeg, p.lonMin, p.zoneHours,
+                               p.zoneSide, 0, in.ayanamsa, in.customYear, in.customProgress);
+  facadeCurrent_ = true;
 }
 
 LunarCalendar::TithiAt LunarCalendar::TithiOf(OleDate moment, const LunarCalendarInputs& in) {
@@ -288,7 +334,10 @@ std::int16_t LunarCalendar::MonthEndCount(const LunarReckoning& r, OleDate birth
     back.Coast(Steady(at, in));
     cursor = back.Step();
   }
-  if (backward == 2) return backward;
+  if (backward == 2) {
+    SettleFacade(in);
+    return backward;
+  }
 
   // Forward: from the first month end after the start, on to where the Sun
   // leaves the sign it held there.
@@ -325,6 +374,7 @@ std::int16_t LunarCalendar::MonthEndCount(const LunarReckoning& r, OleDate birth
     ahead.Coast(Steady(at, in));
   }
   forwardCount_ = forwardSign == foundSign ? forward : 0;
+  SettleFacade(in);
   return backward;
 }
 
@@ -457,6 +507,7 @@ LunarDate LunarCalendar::LunarDateOf(const LunarReckoning& r, OleDate birth, con
       own.year = LunarYearName(birth, own.month, table_);
     }
   }
+  SettleFacade(in);
   return own;
 }
 
