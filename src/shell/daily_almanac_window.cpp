@@ -50,12 +50,19 @@ std::string EndText(OleDate end, OleDate day) {
   return end.DateOnly() == day.DateOnly() ? clock : clock + " (" + FormatDate(end, "DD/MM") + ")";
 }
 
+// The name repeats in both halves of the month, so the sheet says which:
+// "Krishna Panchami"; the full and the new moon need no word.
+std::string TithiWithHalf(int number, const std::string& name) {
+  if (number == 15 || number == 30) return name;
+  return (number < 15 ? "Sukla " : "Krishna ") + name;
+}
+
 render::AlmanacMonthLine SheetLine(OleDate day, const DailyAlmanac& d) {
-  render::AlmanacMonthLine line{FormatDate(day, "DD/MM/YYYY"), FormatDate(day, "dddd"), d.tithi,
+  render::AlmanacMonthLine line{FormatDate(day, "DD/MM/YYYY"), FormatDate(day, "dddd"), TithiWithHalf(d.tithiNo, d.tithi),
                                 EndText(d.tithiEnd, day), d.star, EndText(d.starEnd, day), d.yoga,
                                 EndText(d.yogaEnd, day)};
   if (d.nextTithiKshaya) {
-    line.tithi += " / " + d.nextTithi;
+    line.tithi += " / " + TithiWithHalf(d.nextTithiNo, d.nextTithi);
     line.tithiEnd += " / " + EndText(d.nextTithiEnd, day);
   }
   return line;

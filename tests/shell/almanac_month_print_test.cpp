@@ -83,9 +83,13 @@ TEST_F(ShellTest, AlmanacMonthSavedAsPdfAndPrinted) {
   const render::AlmanacMonthLine& line = almanac->MonthSheet().lines.at(13);
   EXPECT_EQ(line.date, "14/01/2024");
   EXPECT_EQ(line.weekday, "Sunday");
-  EXPECT_EQ(line.tithi, "Tritiya / Chaturthi");
+  EXPECT_EQ(line.tithi, "Sukla Tritiya / Sukla Chaturthi");
   EXPECT_EQ(line.tithiEnd, "08:00 / 05:00 (15/01)");
-  EXPECT_NE(text.find("Tritiya / Chaturthi"), std::string::npos);
+  EXPECT_NE(text.find("Sukla Tritiya / Sukla Chaturthi"), std::string::npos);
+  // The first is the dark half's Panchami (full moon 26 December 2023), the
+  // 25th the full moon itself, named without a half.
+  EXPECT_EQ(almanac->MonthSheet().lines.at(0).tithi, "Krishna Panchami");
+  EXPECT_EQ(almanac->MonthSheet().lines.at(24).tithi, "Purnima");
 
   const Seen printed = ClickAndAnswer(almanac, "cmdMonthPrint", {});
   EXPECT_EQ(printed.title, "Print Preview");
