@@ -19,11 +19,11 @@ constexpr double kMarginPoints = 50;
 QString Q(const std::string& text) { return QString::fromStdString(text); }
 
 QString Footer(const AlmanacMonthSheet& sheet) {
-  return QStringLiteral("Daily Almanac, %1, %2").arg(Q(sheet.month), Q(sheet.place));
+  return QStringLiteral("Daily Almanac, %1, %2").arg(Q(sheet.period), Q(sheet.place));
 }
 
 void Compose(PdfDocument& doc, const AlmanacMonthSheet& sheet) {
-  doc.Text(QStringLiteral("Daily Almanac of %1").arg(Q(sheet.month)), doc.Font(kSerifFamily, 16, true),
+  doc.Text(QStringLiteral("Daily Almanac of %1").arg(Q(sheet.period)), doc.Font(kSerifFamily, 16, true),
            Qt::AlignHCenter);
   doc.Space(4);
   doc.Text(Q(sheet.place), doc.Font(kSerifFamily, 11), Qt::AlignHCenter, kMutedInk);

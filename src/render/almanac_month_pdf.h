@@ -7,29 +7,11 @@
 #include <QPagedPaintDevice>
 #include <QPainter>
 #include <filesystem>
-#include <string>
-#include <vector>
 
 #include "render/pdf_report.h"
+#include "report/almanac_month_sheet.h"
 
 namespace kelvaro::render {
-
-struct AlmanacMonthLine {
-  std::string date;  // "DD/MM/YYYY"
-  std::string weekday;
-  std::string tithi;
-  std::string tithiEnd;  // "HH:MM", or with the date where it ends on another day
-  std::string star;
-  std::string starEnd;
-  std::string yoga;
-  std::string yogaEnd;
-};
-
-struct AlmanacMonthSheet {
-  std::string place;  // "Hyderabad, India"
-  std::string month;  // "January 2024"
-  std::vector<AlmanacMonthLine> lines;
-};
 
 // Draws the sheet on `device` from its first page on (a PDF writer or a
 // printer set to its full page); returns the page count.

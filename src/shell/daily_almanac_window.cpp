@@ -22,6 +22,7 @@
 #include <QVBoxLayout>
 
 #include "common/date_text.h"
+#include "horoscope/almanac_month_lines.h"
 #include "render/almanac_month_pdf.h"
 #include "render/day_bar_painter.h"
 #include "shell/form_keys.h"
@@ -42,31 +43,6 @@ constexpr const char* kPaperKey = "Print/paper";
 QString Q(const std::string& text) { return QString::fromStdString(text); }
 QString Clock(OleDate m) { return Q(FormatDate(m, "DD/MM/YYYY HH:NN:SS")); }
 QString Until(const std::string& name, OleDate end) { return Q(name) + " until " + Clock(end); }
-
-// The end of a period as the month's sheet prints it: the clock, and the
-// date too where it ends on another day than the line's.
-std::string EndText(OleDate end, OleDate day) {
-  const std::string clock = FormatDate(end, "HH:NN");
-  return end.DateOnly() == day.DateOnly() ? clock : clock + " (" + FormatDate(end, "DD/MM") + ")";
-}
-
-// The name repeats in both halves of the month, so the sheet says which:
-// "Krishna Panchami"; the full and the new moon need no word.
-std::string TithiWithHalf(int number, const std::string& name) {
-  if (number == 15 || number == 30) return name;
-  return (number < 15 ? "Sukla " : "Krishna ") + name;
-}
-
-render::AlmanacMonthLine SheetLine(OleDate day, const DailyAlmanac& d) {
-  render::AlmanacMonthLine line{FormatDate(day, "DD/MM/YYYY"), FormatDate(day, "dddd"), TithiWithHalf(d.tithiNo, d.tithi),
-                                EndText(d.tithiEnd, day), d.star, EndText(d.starEnd, day), d.yoga,
-                                EndText(d.yogaEnd, day)};
-  if (d.nextTithiKshaya) {
-    line.tithi += " / " + TithiWithHalf(d.nextTithiNo, d.nextTithi);
-    line.tithiEnd += " / " + EndText(d.nextTithiEnd, day);
-  }
-  return line;
-}
 
 OleDate OleOf(QDate d) { return OleDate::FromParts(d.year(), d.month(), d.day()); }
 
@@ -343,13 +319,13 @@ bool DailyAlmanacWindow::ShowMonth() {
   if (!PlaceOf(place)) return false;
   const QDate first(date_->date().year(), date_->date().month(), 1);
   std::vector<QStringList> rows;
-  render::AlmanacMonthSheet sheet;
+  AlmanacMonthSheet sheet;
   sheet.place = Std(city_->currentText()) + ", " + Std(country_->currentText());
-  sheet.month = Std(QLocale(QLocale::English).toString(first, "MMMM yyyy"));
+  sheet.period = Std(QLocale(QLocale::English).toString(first, "MMMM yyyy"));
   try {
     for (QDate day = first; day.month() == first.month(); day = day.addDays(1)) {
       const DailyAlmanac d = maker_->SunriseLineOf(OleOf(day), place);
-      sheet.lines.push_back(SheetLine(OleOf(day), d));
+      sheet.lines.push_back(AlmanacMonthLineOf(OleOf(day), d));
       rows.push_back({Q(FormatDate(OleOf(day), "DD/MM/YYYY ddd")), Q(FormatDate(d.sunrise, "HH:NN")),
                       Until(d.tithi, d.tithiEnd) + (d.nextTithiKshaya ? ", " + Until(d.nextTithi, d.nextTithiEnd) : ""),
                       Until(d.star, d.starEnd), Until(d.yoga, d.yogaEnd)});
@@ -375,7 +351,7 @@ void DailyAlmanacWindow::SaveMonthAsPdf() {
   QFileDialog dialog(this, tr("Save as PDF"), folder, tr("PDF Files (*.pdf)"));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix("pdf");
-  dialog.selectFile(tr("Almanac %1.pdf").arg(Q(monthSheet_.month)));
+  dialog.selectFile(tr("Almanac %1.pdf").arg(Q(monthSheet_.period)));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
   const QString file = dialog.selectedFiles().constFirst();
   if (settings_) settings_->setValue(kFolderKey, QFileInfo(file).absolutePath());
@@ -392,7 +368,7 @@ void DailyAlmanacWindow::PrintMonth() {
   printer.setPageSize(QPageSize(Paper() == render::PaperSize::Letter ? QPageSize::Letter : QPageSize::A4));
   // The sheet keeps its own margins, as in the PDF.
   printer.setFullPage(true);
-  printer.setDocName(tr("Almanac %1").arg(Q(monthSheet_.month)));
+  printer.setDocName(tr("Almanac %1").arg(Q(monthSheet_.period)));
   QPrintPreviewDialog preview(&printer, this);
   preview.setWindowTitle(tr("Print Preview"));
   connect(&preview, &QPrintPreviewDialog::paintRequested, this, [this](QPrinter* target) {

@@ -65,7 +65,7 @@ class DailyAlmanacWindow : public QDialog {
   void SaveMonthAsPdf();
   void PrintMonth();
   // The month last shown, as it goes on paper.
-  const render::AlmanacMonthSheet& MonthSheet() const { return monthSheet_; }
+  const AlmanacMonthSheet& MonthSheet() const { return monthSheet_; }
 
   QDateEdit* DateEdit() const { return date_; }
   QComboBox* CountryBox() const { return country_; }
@@ -100,7 +100,7 @@ class DailyAlmanacWindow : public QDialog {
   QTableWidget* month_;
   DayBarWidget* bar_;
   QLabel* status_;
-  render::AlmanacMonthSheet monthSheet_;
+  AlmanacMonthSheet monthSheet_;
 };
 
 }  // namespace kelvaro::shell

@@ -8,7 +8,7 @@
 #include <sstream>
 
 #include "common/date_text.h"
-#include "horoscope/daily_almanac.h"
+#include "horoscope/almanac_month_lines.h"
 #include "report/destinations.h"
 #include "support/pdf_tools.h"
 #include "support/year_table.h"
@@ -17,8 +17,6 @@ namespace kelvaro::render {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string Clock(OleDate m) { return FormatDate(m, "HH:NN"); }
 
 // Days of the real model at Hyderabad from 1 January 2024 on.
 AlmanacMonthSheet HyderabadSheet(int days) {
@@ -29,9 +27,7 @@ AlmanacMonthSheet HyderabadSheet(int days) {
   AlmanacMonthSheet sheet{"Hyderabad, India", "January 2024", {}};
   for (int i = 0; i < days; ++i) {
     const OleDate date = DateAdd(Interval::Day, i, OleDate::FromParts(2024, 1, 1));
-    const DailyAlmanac d = maker.SunriseLineOf(date, place);
-    sheet.lines.push_back({FormatDate(date, "DD/MM/YYYY"), FormatDate(date, "dddd"), d.tithi, Clock(d.tithiEnd),
-                           d.star, Clock(d.starEnd), d.yoga, Clock(d.yogaEnd)});
+    sheet.lines.push_back(AlmanacMonthLineOf(date, maker.SunriseLineOf(date, place)));
   }
   return sheet;
 }
@@ -79,7 +75,7 @@ TEST_F(MonthPdf, OneMonthOnOnePageWithItsRows) {
     EXPECT_NE(page.find(text), std::string::npos) << text << "\n" << page;
   }
   const AlmanacMonthLine& l = sheet.lines[14];
-  EXPECT_EQ(l.tithi, "Panchami");
+  EXPECT_EQ(l.tithi, "Sukla Panchami");
   EXPECT_EQ(l.star, "Shatbhisha");
   const std::string row = LineStarting(page, "15/01/2024");
   std::size_t at = 0;

@@ -80,7 +80,7 @@ TEST_F(ShellTest, AlmanacMonthSavedAsPdfAndPrinted) {
   }
   // 14 January has a kshaya tithi: both tithis on its line, the second
   // ending on the 15th, as the day table says.
-  const render::AlmanacMonthLine& line = almanac->MonthSheet().lines.at(13);
+  const AlmanacMonthLine& line = almanac->MonthSheet().lines.at(13);
   EXPECT_EQ(line.date, "14/01/2024");
   EXPECT_EQ(line.weekday, "Sunday");
   EXPECT_EQ(line.tithi, "Sukla Tritiya / Sukla Chaturthi");
