@@ -32,6 +32,21 @@ void BM_AlmanacDay(benchmark::State& state) {
 }
 BENCHMARK(BM_AlmanacDay)->Unit(benchmark::kMillisecond);
 
+// The same on a maker of its own each time: the first day a window or the
+// command line asks for, with nothing kept from a day before.
+void BM_AlmanacDayFirst(benchmark::State& state) {
+  bench::TemporaryDatabase database;
+  store::DatabaseKaliyugaYearTable table(database.Db());
+  const AlmanacPlace place = Hyderabad();
+  int day = 0;
+  for (auto _ : state) {
+    DailyAlmanacMaker maker(table);
+    DailyAlmanac a = maker.DayOf(DateAdd(Interval::Day, day++ % 30, kFirstDay), place);
+    benchmark::DoNotOptimize(a);
+  }
+}
+BENCHMARK(BM_AlmanacDayFirst)->Unit(benchmark::kMillisecond);
+
 // The month at a glance: thirty-one lines of tithi, star and yoga at sunrise
 // with their ends.
 void BM_AlmanacMonthTable(benchmark::State& state) {

@@ -1,5 +1,6 @@
 // kelvaro-cli almanac: the daily almanac of a date, or of N days from it, at a
-// city of the database or at a latitude, longitude and zone.
+// city of the database or at a latitude, longitude and zone; as text, JSON or
+// the month-at-a-glance sheet in a PDF file.
 #include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
@@ -12,12 +13,16 @@
 #include "cli/birth_input.h"
 #include "cli/cli.h"
 #include "cli/database_option.h"
+#include "cli/gui_start.h"
 #include "common/calculation_error.h"
 #include "common/date_text.h"
 #include "common/number_rules.h"
 #include "common/text_checks.h"
+#include "horoscope/almanac_month_lines.h"
 #include "horoscope/birth_form.h"
 #include "horoscope/daily_almanac.h"
+#include "render/almanac_month_pdf.h"
+#include "report/destinations.h"
 #include "store/city_master.h"
 #include "store/country_master.h"
 #include "store/database.h"
@@ -40,8 +45,44 @@ struct AlmanacOptions {
   std::string ayanamsa, zeroYear, progress;
   int days = 1;
   bool json = false;
+  std::string format = "text";
+  std::string output;
+  std::string paper = "A4";
   std::string database;
 };
+
+// The place as the sheet's heading names it: the city and country asked
+// for, or the numbers given.
+std::string SheetPlace(const AlmanacOptions& o) {
+  if (!o.city.empty()) return o.city + ", " + o.country;
+  return o.lat + " " + o.lon + " (zone " + o.tz + ")";
+}
+
+// "January 2024" for a whole month from its first day, else the dates.
+std::string SheetPeriod(OleDate first, int days) {
+  static constexpr const char* kMonths[] = {"January", "February", "March",     "April",   "May",      "June",
+                                            "July",    "August",   "September", "October", "November", "December"};
+  const DateParts p = first.Parts();
+  if (p.day == 1 && days == OleDate::DaysInMonth(p.year, p.month)) {
+    return std::string(kMonths[p.month - 1]) + " " + std::to_string(p.year);
+  }
+  const std::string from = FormatDate(first, "DD/MM/YYYY");
+  return days == 1 ? from : from + " to " + FormatDate(DateAdd(Interval::Day, days - 1, first), "DD/MM/YYYY");
+}
+
+void WriteSheet(const AlmanacOptions& o, OleDate first, const std::vector<DailyAlmanac>& days, Session& session) {
+  AlmanacMonthSheet sheet{SheetPlace(o), SheetPeriod(first, o.days), {}};
+  for (std::size_t i = 0; i < days.size(); ++i) {
+    sheet.lines.push_back(AlmanacMonthLineOf(DateAdd(Interval::Day, static_cast<double>(i), first), days[i]));
+  }
+  StartGui();
+  try {
+    render::WriteAlmanacMonthPdf(o.output, sheet, render::PaperSizeOf(o.paper).value_or(render::PaperSize::A4));
+  } catch (const ReportWriteError& e) {
+    session.err << "kelvaro-cli: " << e.what() << "\n";
+    session.status = kExitFailure;
+  }
+}
 
 std::string Moment(OleDate m) { return FormatDate(m, "DD/MM/YYYY HH:NN:SS"); }
 
@@ -220,7 +261,9 @@ void RunAlmanac(const AlmanacOptions& o, Session& session) {
     // a later day leaves no half-written output.
     std::vector<DailyAlmanac> days;
     for (int i = 0; i < o.days; ++i) days.push_back(maker.DayOf(DateAdd(Interval::Day, i, first), place));
-    if (o.json) {
+    if (o.format == "pdf") {
+      WriteSheet(o, first, days, session);
+    } else if (o.json) {
       nlohmann::ordered_json j;
       if (o.days == 1) {
         j = DayJson(days.front());
@@ -261,8 +304,20 @@ void RegisterAlmanacCommand(CLI::App& app, Session& session) {
   cmd->add_option("--zero-year", o->zeroYear, "Zero year of the Custom ayanamsa");
   cmd->add_option("--progress", o->progress, "Yearly progress of the Custom ayanamsa, seconds of arc");
   cmd->add_flag("--json", o->json, "Print JSON: one object, or an array of them with --days");
+  cmd->add_option("--format", o->format, "text or pdf (the month-at-a-glance sheet, with --output)")
+      ->check(CLI::IsMember({"text", "pdf"}));
+  cmd->add_option("--output", o->output, "PDF file to write");
+  cmd->add_option("--paper", o->paper, "Paper of the PDF: A4 or Letter")
+      ->check(CLI::IsMember({"A4", "Letter"}, CLI::ignore_case));
   cmd->add_option("--database", o->database, "Database file (default: the per-user data folder)");
-  cmd->callback([&session, o]() { RunAlmanac(*o, session); });
+  cmd->callback([&session, o]() {
+    if (o->format == "pdf" && (o->output.empty() || o->json)) {
+      session.err << "kelvaro-cli: --format pdf needs --output FILE, and no --json\n";
+      session.status = kExitBadInput;
+      return;
+    }
+    RunAlmanac(*o, session);
+  });
 }
 
 }  // namespace kelvaro::cli

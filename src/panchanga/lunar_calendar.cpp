@@ -1,7 +1,9 @@
 #include "panchanga/lunar_calendar.h"
 
+#include <algorithm>
 #include <array>
 #include <cctype>
+#include <cmath>
 #include <utility>
 
 #include "common/calculation_error.h"
@@ -81,6 +83,11 @@ class HourlyWalk {
       : start_(start), cursor_(start), hours_(hours), search_(std::move(search)), sought_(std::move(sought)) {}
 
   OleDate Cursor() const { return cursor_; }
+  // Steps that change nothing the walk looks at, taken one by one (so the
+  // cursor and the bound stay those of the hourly walk).
+  void Coast(int steps) {
+    for (int i = 0; i < steps; ++i) Step();
+  }
   void Seek(std::string sought) { sought_ = std::move(sought); }
 
   OleDate Step() {
@@ -101,6 +108,35 @@ class HourlyWalk {
   std::string search_;
   std::string sought_;
 };
+
+// Bounds on how far the positions move in one hour, with a margin: the
+// elongation of the Moon from the Sun at most about 0.61 degrees (the Moon's
+// fastest 15.4 degrees a day less the Sun's slowest), the Sun at most about
+// 0.043 degrees (1.02 a day).
+constexpr double kMaxElongationPerHour = 0.7;
+constexpr double kMaxSunPerHour = 0.05;
+
+// How far a value lies from the nearest multiple of `span` (0 on one).
+double FromNearestBound(double value, double span) {
+  const double below = value - span * std::floor(value / span);
+  return std::min(below, span - below);
+}
+
+// The hourly steps after a moment with these positions that are sure to
+// keep both its tithi (rows of 12 degrees of elongation) and the Sun's sign
+// (rows of 30 degrees): no condition of the walks can change over them, so
+// they are stepped without working the positions out. Strictly inside the
+// bounds, so a moment on a bound skips nothing; nothing either for values
+// outside 0 to 360, where the classifiers keep earlier results.
+int SteadyHours(double sun, double moon) {
+  if (!(sun >= 0 && sun < 360 && moon >= 0 && moon < 360)) return 0;
+  const double elongation = sun > moon ? moon + 360 - sun : moon - sun;
+  const double hours =
+      std::min(FromNearestBound(elongation, 12) / kMaxElongationPerHour, FromNearestBound(sun, 30) / kMaxSunPerHour);
+  // One step fewer than the bound allows, so a move of exactly the bound
+  // never counts as steady.
+  return std::max(0, static_cast<int>(std::ceil(hours)) - 1);
+}
 
 // A 16-bit counter one up; CalculationError if it would not fit.
 std::int16_t OneMore(std::int16_t count) { return CInt(static_cast<double>(count) + 1); }
@@ -160,11 +196,57 @@ LunarCalendar::LunarCalendar(ClsFindPlanetPosition& positions, clsTithi& tithi, 
                              clsFindSunSet& sunset, const KaliyugaYearTable& table)
     : positions_(positions), tithi_(tithi), sunrise_(sunrise), sunset_(sunset), table_(table) {}
 
+namespace {
+
+bool SameInputs(const LunarCalendarInputs& a, const LunarCalendarInputs& b) {
+  const CalendarPlace& p = a.place;
+  const CalendarPlace& q = b.place;
+  return p.latNS == q.latNS && p.latDeg == q.latDeg && p.latMin == q.latMin && p.lonEW == q.lonEW &&
+         p.lonDeg == q.lonDeg && p.lonMin == q.lonMin && p.zoneHours == q.zoneHours && p.zoneSide == q.zoneSide &&
+         a.ayanamsa == b.ayanamsa && a.customYear == b.customYear && a.customProgress == b.customProgress;
+}
+
+// Enough for the walks of some days at one place; past it the memo starts
+// afresh rather than grow without end.
+constexpr size_t kMemoLimit = 20000;
+
+}  // namespace
+
 LunarCalendar::SunMoon LunarCalendar::PositionsAt(OleDate moment, const LunarCalendarInputs& in) {
+  // The two reckonings, and the days next to each other, walk over the same
+  // hours: the positions of a moment already worked out at these inputs are
+  // taken from the memo.
+  if (!hourByHour) {
+    if (!memoValid_ || !SameInputs(memoInputs_, in) || memo_.size() >= kMemoLimit) {
+      memo_.clear();
+      memoInputs_ = in;
+      memoValid_ = true;
+    }
+    const auto hit = memo_.find(moment.Linear());
+    if (hit != memo_.end()) {
+      facadeCurrent_ = false;
+      lastMoment_ = moment;
+      return hit->second;
+    }
+  }
   const CalendarPlace& p = in.place;
   positions_.FindSunMoonValues(moment, p.latNS, p.latDeg, p.latMin, p.lonEW, p.lonDeg, p.lonMin, p.zoneHours,
                                p.zoneSide, 0, in.ayanamsa, in.customYear, in.customProgress);
-  return {positions_.FnFindSunPosition(), positions_.FnFindMoonPosition()};
+  const SunMoon at{positions_.FnFindSunPosition(), positions_.FnFindMoonPosition()};
+  if (!hourByHour) memo_.emplace(moment.Linear(), at);
+  facadeCurrent_ = true;
+  lastMoment_ = moment;
+  return at;
+}
+
+// The facade is left as a walk without the memo leaves it: holding the
+// positions of the last moment asked for.
+void LunarCalendar::SettleFacade(const LunarCalendarInputs& in) {
+  if (facadeCurrent_) return;
+  const CalendarPlace& p = in.place;
+  positions_.FindSunMoonValues(lastMoment_, p.latNS, p.latDeg, p.latMin, p.lonEW, p.lonDeg, p.lonMin, p.zoneHours,
+                               p.zoneSide, 0, in.ayanamsa, in.customYear, in.customProgress);
+  facadeCurrent_ = true;
 }
 
 LunarCalendar::TithiAt LunarCalendar::TithiOf(OleDate moment, const LunarCalendarInputs& in) {
@@ -174,6 +256,13 @@ LunarCalendar::TithiAt LunarCalendar::TithiOf(OleDate moment, const LunarCalenda
   t.number = TithiNumberOf(tithi_, at.moon, at.sun);
   t.side = TithiSideOf(tithi_, at.moon, at.sun);
   return t;
+}
+
+int LunarCalendar::Steady(const SunMoon& at, const LunarCalendarInputs& in) const {
+  // A custom ayanamsa may progress at any rate, which moves the Sun's sign
+  // bounds past the hourly bound above: those walks go hour by hour.
+  if (hourByHour || in.ayanamsa == "Custom") return 0;
+  return SteadyHours(at.sun, at.moon);
 }
 
 double& LunarCalendar::KeptSun(const LunarReckoning& r) {
@@ -216,6 +305,7 @@ std::int16_t LunarCalendar::MonthEndCount(const LunarReckoning& r, OleDate birth
     if (name == r.monthEnd) {
       back.Seek("No beginning of " + r.monthEnd + " found");
       do {
+        back.Coast(Steady(at, in));
         cursor = back.Step();
         at = PositionsAt(cursor, in);
         name = TithiNameOf(tithi_, at.moon, at.sun);
@@ -241,24 +331,30 @@ std::int16_t LunarCalendar::MonthEndCount(const LunarReckoning& r, OleDate birth
       back.Seek("The Sun did not leave " + foundSign);
     }
     if (backward != 0 && foundSign != currentSign) break;
+    back.Coast(Steady(at, in));
     cursor = back.Step();
   }
-  if (backward == 2) return backward;
+  if (backward == 2) {
+    SettleFacade(in);
+    return backward;
+  }
 
   // Forward: from the first month end after the start, on to where the Sun
   // leaves the sign it held there.
   std::int16_t forward = 0;
   lastDate.clear();
   HourlyWalk ahead(*first, 1, r.name + ", forward search", "No " + r.monthEnd + " found");
+  SunMoon at;  // nothing is known before the first step, so it coasts none
   for (;;) {
     cursor = ahead.Step();
-    SunMoon at = PositionsAt(cursor, in);
+    at = PositionsAt(cursor, in);
     std::string name = TithiNameOf(tithi_, at.moon, at.sun);
     currentSign = SignOfSun(at.sun);
     if (name == r.monthEnd) {
       forwardSign = currentSign;
       ahead.Seek("No end of " + r.monthEnd + " found");
       do {
+        ahead.Coast(Steady(at, in));
         cursor = ahead.Step();
         at = PositionsAt(cursor, in);
         name = TithiNameOf(tithi_, at.moon, at.sun);
@@ -275,8 +371,10 @@ std::int16_t LunarCalendar::MonthEndCount(const LunarReckoning& r, OleDate birth
       ahead.Seek("The Sun did not leave " + forwardSign);
     }
     if (forward != 0 && forwardSign != currentSign) break;
+    ahead.Coast(Steady(at, in));
   }
   forwardCount_ = forwardSign == foundSign ? forward : 0;
+  SettleFacade(in);
   return backward;
 }
 
@@ -288,6 +386,7 @@ OleDate LunarCalendar::NextBrightPratipada(OleDate from, const LunarReckoning& r
     if (IsBrightPratipada(TithiNameOf(tithi_, at.moon, at.sun), TithiSideOf(tithi_, at.moon, at.sun))) {
       return cursor;
     }
+    walk.Coast(Steady(at, in));
   }
 }
 
@@ -408,6 +507,7 @@ LunarDate LunarCalendar::LunarDateOf(const LunarReckoning& r, OleDate birth, con
       own.year = LunarYearName(birth, own.month, table_);
     }
   }
+  SettleFacade(in);
   return own;
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 // The two lunar dates of a birth: Krishnadi (the month ends at the full moon)
 // and Sukladi (the month ends at the new moon). Neither comes from a table:
-// the clock is walked hour by hour, with the Sun and Moon worked out at every
-// step, until the tithi sought begins or ends.
+// the clock is walked hour by hour until the tithi sought begins or ends, with
+// the Sun and Moon worked out at every step that could change what is sought.
 //
 // One routine serves both reckonings; LunarReckoning holds what differs. The
 // calendar keeps state between births on purpose: the Krishnadi date reads
@@ -10,6 +10,7 @@
 // the first birth of a run), so one LunarCalendar lives for the whole run.
 #include <cstdint>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "astronomy/find_planet_position.h"
@@ -102,6 +103,13 @@ class LunarCalendar {
   std::int16_t AmavasyaCount(OleDate birth, const LunarCalendarInputs& inputs);
   std::int16_t MonthEndCount(const LunarReckoning& reckoning, OleDate birth, const LunarCalendarInputs& inputs);
 
+  // The walks step over the hours in which neither the tithi nor the Sun's
+  // sign can change without working the positions out, and keep the
+  // positions they worked out for the next walks at the same inputs; true
+  // works out every hour afresh (the slow walk, kept to check the quick one
+  // against).
+  bool hourByHour = false;
+
   // State after the last call.
   const LunarDate& Krishnadi() const { return krishnadi_; }
   const LunarDate& Sukladi() const { return sukladi_; }
@@ -128,7 +136,9 @@ class LunarCalendar {
   };
 
   SunMoon PositionsAt(OleDate moment, const LunarCalendarInputs& inputs);
+  void SettleFacade(const LunarCalendarInputs& inputs);
   TithiAt TithiOf(OleDate moment, const LunarCalendarInputs& inputs);
+  int Steady(const SunMoon& at, const LunarCalendarInputs& inputs) const;
   OleDate NextBrightPratipada(OleDate from, const LunarReckoning& reckoning, const LunarCalendarInputs& inputs);
   double& KeptSun(const LunarReckoning& reckoning);
   LunarDate& Result(LunarReckoning::Which which);
@@ -149,6 +159,15 @@ class LunarCalendar {
   double amavasyaSun_ = 0;
   double sunAtBirth_ = 0;
   double moonAtBirth_ = 0;
+
+  // Positions already worked out, by moment, for memoInputs_.
+  std::unordered_map<double, SunMoon> memo_;
+  LunarCalendarInputs memoInputs_;
+  bool memoValid_ = false;
+  // Whether the facade holds the positions of lastMoment_, the moment last
+  // asked for (a memo hit leaves it behind).
+  bool facadeCurrent_ = true;
+  OleDate lastMoment_;
 };
 
 }  // namespace kelvaro

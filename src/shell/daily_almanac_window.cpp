@@ -3,11 +3,17 @@
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QDateEdit>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QHelpEvent>
 #include <QLabel>
+#include <QLocale>
 #include <QPainter>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
 #include <QPushButton>
 #include <QSettings>
 #include <QTabWidget>
@@ -16,6 +22,8 @@
 #include <QVBoxLayout>
 
 #include "common/date_text.h"
+#include "horoscope/almanac_month_lines.h"
+#include "render/almanac_month_pdf.h"
 #include "render/day_bar_painter.h"
 #include "shell/form_keys.h"
 #include "shell/messages.h"
@@ -27,6 +35,10 @@ namespace kelvaro::shell {
 namespace {
 
 constexpr const char* kGeometryKey = "DailyAlmanac/geometry";
+constexpr const char* kFolderKey = "DailyAlmanac/folder";
+constexpr const char* kPreviewKey = "DailyAlmanac/previewGeometry";
+// The paper chosen in the Print view serves the month too.
+constexpr const char* kPaperKey = "Print/paper";
 
 QString Q(const std::string& text) { return QString::fromStdString(text); }
 QString Clock(OleDate m) { return Q(FormatDate(m, "DD/MM/YYYY HH:NN:SS")); }
@@ -149,9 +161,21 @@ DailyAlmanacWindow::DailyAlmanacWindow(store::Database& db, const KaliyugaYearTa
   dayLayout->addWidget(dayTable_, 3);
   dayLayout->addWidget(planets_, 2);
   month_ = NewTable({tr("Date"), tr("Sunrise"), tr("Tithi"), tr("Star"), tr("Yoga")}, "mshAlmanacMonth");
+  auto* savePdf = new QPushButton(tr("Save as P&DF"));
+  savePdf->setObjectName("cmdMonthPdf");
+  auto* print = new QPushButton(tr("P&rint"));
+  print->setObjectName("cmdMonthPrint");
+  auto* monthButtons = new QHBoxLayout;
+  monthButtons->addStretch();
+  monthButtons->addWidget(savePdf);
+  monthButtons->addWidget(print);
+  auto* monthPage = new QWidget;
+  auto* monthLayout = new QVBoxLayout(monthPage);
+  monthLayout->addWidget(month_, 1);
+  monthLayout->addLayout(monthButtons);
   tabs_ = new QTabWidget;
   tabs_->addTab(dayPage, tr("D&ay"));
-  tabs_->addTab(month_, tr("&Month"));
+  tabs_->addTab(monthPage, tr("&Month"));
   status_ = new QLabel;
   status_->setObjectName("lblAlmanacStatus");
 
@@ -171,6 +195,8 @@ DailyAlmanacWindow::DailyAlmanacWindow(store::Database& db, const KaliyugaYearTa
     ShowDay();
   });
   connect(show, &QPushButton::clicked, this, [this] { ShowDay(); });
+  connect(savePdf, &QPushButton::clicked, this, [this] { SaveMonthAsPdf(); });
+  connect(print, &QPushButton::clicked, this, [this] { PrintMonth(); });
   // The month is worked out when its tab is opened, not with every day.
   connect(tabs_, &QTabWidget::currentChanged, this, [this](int index) {
     if (index == 1) ShowMonth();
@@ -293,9 +319,13 @@ bool DailyAlmanacWindow::ShowMonth() {
   if (!PlaceOf(place)) return false;
   const QDate first(date_->date().year(), date_->date().month(), 1);
   std::vector<QStringList> rows;
+  AlmanacMonthSheet sheet;
+  sheet.place = Std(city_->currentText()) + ", " + Std(country_->currentText());
+  sheet.period = Std(QLocale(QLocale::English).toString(first, "MMMM yyyy"));
   try {
     for (QDate day = first; day.month() == first.month(); day = day.addDays(1)) {
       const DailyAlmanac d = maker_->SunriseLineOf(OleOf(day), place);
+      sheet.lines.push_back(AlmanacMonthLineOf(OleOf(day), d));
       rows.push_back({Q(FormatDate(OleOf(day), "DD/MM/YYYY ddd")), Q(FormatDate(d.sunrise, "HH:NN")),
                       Until(d.tithi, d.tithiEnd) + (d.nextTithiKshaya ? ", " + Until(d.nextTithi, d.nextTithiEnd) : ""),
                       Until(d.star, d.starEnd), Until(d.yoga, d.yogaEnd)});
@@ -305,7 +335,50 @@ bool DailyAlmanacWindow::ShowMonth() {
     return false;
   }
   SetRows(month_, rows);
+  monthSheet_ = std::move(sheet);
   return true;
+}
+
+render::PaperSize DailyAlmanacWindow::Paper() const {
+  const QString name = settings_ ? settings_->value(kPaperKey).toString() : QString();
+  return render::PaperSizeOf(Std(name)).value_or(render::PaperSize::A4);
+}
+
+void DailyAlmanacWindow::SaveMonthAsPdf() {
+  // The month of the date and place on the form, worked out afresh.
+  if (!ShowMonth()) return;
+  const QString folder = settings_ ? settings_->value(kFolderKey, QDir::homePath()).toString() : QDir::homePath();
+  QFileDialog dialog(this, tr("Save as PDF"), folder, tr("PDF Files (*.pdf)"));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix("pdf");
+  dialog.selectFile(tr("Almanac %1.pdf").arg(Q(monthSheet_.period)));
+  if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return;
+  const QString file = dialog.selectedFiles().constFirst();
+  if (settings_) settings_->setValue(kFolderKey, QFileInfo(file).absolutePath());
+  try {
+    render::WriteAlmanacMonthPdf(Std(file), monthSheet_, Paper());
+  } catch (const std::exception& e) {
+    ShowError(this, QString::fromUtf8(e.what()));
+  }
+}
+
+void DailyAlmanacWindow::PrintMonth() {
+  if (!ShowMonth()) return;
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setPageSize(QPageSize(Paper() == render::PaperSize::Letter ? QPageSize::Letter : QPageSize::A4));
+  // The sheet keeps its own margins, as in the PDF.
+  printer.setFullPage(true);
+  printer.setDocName(tr("Almanac %1").arg(Q(monthSheet_.period)));
+  QPrintPreviewDialog preview(&printer, this);
+  preview.setWindowTitle(tr("Print Preview"));
+  connect(&preview, &QPrintPreviewDialog::paintRequested, this, [this](QPrinter* target) {
+    QPainter painter(target);
+    render::PaintAlmanacMonth(painter, *target, monthSheet_);
+  });
+  preview.resize(900, 760);
+  if (settings_) preview.restoreGeometry(settings_->value(kPreviewKey).toByteArray());
+  preview.exec();
+  if (settings_) settings_->setValue(kPreviewKey, preview.saveGeometry());
 }
 
 }  // namespace kelvaro::shell

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "horoscope/daily_almanac.h"
+#include "render/almanac_month_pdf.h"
 #include "store/city_master.h"
 #include "store/country_master.h"
 
@@ -59,6 +60,12 @@ class DailyAlmanacWindow : public QDialog {
   // after a message when it cannot.
   bool ShowDay();
   bool ShowMonth();
+  // The month of the date on the form to a PDF file (through a save dialog)
+  // or, after a print preview, to the printer.
+  void SaveMonthAsPdf();
+  void PrintMonth();
+  // The month last shown, as it goes on paper.
+  const AlmanacMonthSheet& MonthSheet() const { return monthSheet_; }
 
   QDateEdit* DateEdit() const { return date_; }
   QComboBox* CountryBox() const { return country_; }
@@ -77,6 +84,7 @@ class DailyAlmanacWindow : public QDialog {
   void FillCities(const QString& chosen);
   bool PlaceOf(AlmanacPlace& place);
   void Step(int days);
+  render::PaperSize Paper() const;
 
   store::Database& db_;
   QSettings* settings_;
@@ -92,6 +100,7 @@ class DailyAlmanacWindow : public QDialog {
   QTableWidget* month_;
   DayBarWidget* bar_;
   QLabel* status_;
+  AlmanacMonthSheet monthSheet_;
 };
 
 }  // namespace kelvaro::shell
