@@ -8,18 +8,18 @@
 #include <QCompleter>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QTest>
 
 #include "shell/birth_form_dialog.h"
-#include "shell/details_view.h"
 #include "shell_test_support.h"
 
 namespace kelvaro::shell {
 namespace {
 
 using testing::AnswerBoxes;
+using testing::DetailsValue;
+using testing::TypeInto;
 
 class BirthFormOffsetTest : public testing::ShellTest {
  protected:
@@ -33,17 +33,10 @@ class BirthFormOffsetTest : public testing::ShellTest {
     fold_ = form_->findChild<QComboBox*>("cbClockFold");
     ASSERT_TRUE(line_ && automatic_ && fold_);
   }
-  void Type(const char* name, const QString& text) {
-    auto* c = form_->findChild<QComboBox*>(name);
-    c->setCurrentIndex(-1);
-    c->clearEditText();
-    c->setFocus();
-    QTest::keyClicks(c, text);
-  }
   // Day, month, year, hour and minute, then AM or PM.
   void TypeBirth(const QStringList& texts, const char* amPm) {
     const char* names[] = {"txt_Date", "txt_Month", "txt_Year", "cbHour", "cbMins"};
-    for (int i = 0; i < 5; ++i) Type(names[i], texts[i]);
+    for (int i = 0; i < 5; ++i) TypeInto(form_, names[i], texts[i]);
     QTest::mouseClick(form_->findChild<QRadioButton*>(amPm), Qt::LeftButton);
   }
   // Types into the place finder and takes the first listed place that
@@ -60,13 +53,6 @@ class BirthFormOffsetTest : public testing::ShellTest {
     for (int i = 0; i <= row; ++i) QTest::keyClick(popup, Qt::Key_Down);
     QTest::keyClick(popup, Qt::Key_Return);
   }
-  QString Details(const QString& label) {
-    const GridModel& m = static_cast<DetailsView*>(window_->View(0))->Table().Model();
-    for (int r = 0; r < m.rowCount(); ++r) {
-      if (m.index(r, 0).data().toString() == label) return m.index(r, 1).data().toString();
-    }
-    return {};
-  }
 
   std::unique_ptr<MainWindow> window_;
   BirthFormDialog* form_ = nullptr;
@@ -81,7 +67,7 @@ TEST_F(BirthFormOffsetTest, WarTimeIsShownOverruledSavedReopenedAndCalculated) {
   ChoosePlace("Kolkata", "Kolkata");
   EXPECT_EQ(line_->text(), "Asia/Kolkata: +5:30 on 14/07/1946 (standard time)");
   // The line follows the date: in 1943 the war time was in force.
-  Type("txt_Year", "1943");
+  TypeInto(form_, "txt_Year", "1943");
   const QString war = "Asia/Kolkata: +6:30 on 14/07/1943 (war time)";
   EXPECT_EQ(line_->text(), war);
 
@@ -101,18 +87,18 @@ TEST_F(BirthFormOffsetTest, WarTimeIsShownOverruledSavedReopenedAndCalculated) {
   form_->OpenChart(sno);
   EXPECT_EQ(line_->text(), war);
 
-  EXPECT_TRUE(AnswerBoxes([&] { QTest::mouseClick(form_->findChild<QPushButton*>("cmdSave"), Qt::LeftButton); })
-                  .empty());
-  EXPECT_EQ(Details("Clock Offset"), war);
+  EXPECT_TRUE(testing::Click(form_, "cmdSave").empty());
+  EXPECT_EQ(DetailsValue(*window_, "Clock Offset"), war);
   // 14:15 at +6:30 is 07:45 at Greenwich; the zone row's +5:30 would give 08:45.
-  EXPECT_TRUE(Details("Greenwich Time").contains("07:45")) << Details("Greenwich Time").toStdString();
+  const QString greenwich = DetailsValue(*window_, "Greenwich Time");
+  EXPECT_TRUE(greenwich.contains("07:45")) << greenwich.toStdString();
 }
 
 TEST_F(BirthFormOffsetTest, ATimeThatHappenedTwiceAsksWhichReading) {
   TypeBirth({"03", "Nov", "2024", "02", "30"}, "Opt_AM");
   ChoosePlace("New York", "New York");
   EXPECT_FALSE(fold_->isVisible());
-  Type("cbHour", "01");
+  TypeInto(form_, "cbHour", "01");
   ASSERT_TRUE(fold_->isVisible());
   EXPECT_DOUBLE_EQ(form_->Fields().timeDiff, 4);
   fold_->setFocus();
