@@ -78,6 +78,7 @@ TEST_F(PlacesAndZones, ZoneTextAndItsRefusals) {
   struct Refusal {
     std::vector<std::string> args;
     const char* words;
+    const char* date = "14/07/1943";
   };
   const Refusal refusals[] = {
       {{"--city", "Albany", "--country", "United States"}, "Albany, New York; Albany, Georgia"},
@@ -86,17 +87,15 @@ TEST_F(PlacesAndZones, ZoneTextAndItsRefusals) {
       {{"--zone-id", "Asia/Hyderabad", "--lat", "17N20", "--lon", "78E30"}, "no such zone"},
       {{"--zone-id", "Asia/Kolkata", "--lat", "17N20"}, "--lon: is required with --zone-id"},
       {{"--city", "Kolkata"}, "--country: is required"},
+      {{"--city", "Kolkata", "--country", "India"}, "--date \"31/02/1943\": there is no such day", "31/02/1943"},
   };
   for (const Refusal& c : refusals) {
-    std::vector<std::string> args = {"zone", "--date", "14/07/1943", "--time", "12:00"};
+    std::vector<std::string> args = {"zone", "--date", c.date, "--time", "12:00"};
     args.insert(args.end(), c.args.begin(), c.args.end());
     const Outcome r = Run(args);
     EXPECT_EQ(r.status, kExitBadInput) << c.words;
     EXPECT_NE(r.err.find(c.words), std::string::npos) << r.err;
   }
-  const Outcome badDate = Run({"zone", "--city", "Kolkata", "--country", "India", "--date", "31/02/1943", "--time", "12:00"});
-  EXPECT_EQ(badDate.status, kExitBadInput);
-  EXPECT_NE(badDate.err.find("--date \"31/02/1943\": there is no such day"), std::string::npos) << badDate.err;
 }
 
 TEST_F(PlacesAndZones, PlacesFind) {
@@ -129,11 +128,6 @@ TEST_F(PlacesAndZones, TzAutoInTheSummaryAndTheReport) {
   EXPECT_EQ(j["txtgmt"], "14/Jul/1943 05:30 AM");
   EXPECT_EQ(j["txtLatutude"], "22 34 N");
   EXPECT_EQ(j["txtClockOffset"], "Asia/Kolkata: +6:30 on 14/07/1943 (war time)");
-
-  const Outcome byZone = Run({"summary", "--date", "14/07/1965", "--time", "14:15", "--lat", "17N20", "--lon", "78E30",
-                              "--tz", "auto", "--zone-id", "Asia/Kolkata", "--json"});
-  ASSERT_EQ(byZone.status, kExitOk) << byZone.err;
-  EXPECT_EQ(nlohmann::json::parse(byZone.out)["txtgmt"], "14/Jul/1965 08:45 AM");
 
   const Outcome given = Run({"summary", "--date", "14/07/1965", "--time", "14:15", "--lat", "17N20", "--lon", "78E30",
                              "--tz", "5.5E", "--json"});
