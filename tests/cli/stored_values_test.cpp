@@ -12,30 +12,18 @@
 #include "store/database.h"
 #include "store/store_test_support.h"
 #include "store/time_zone_master.h"
+#include "support/test_data.h"
 
 namespace kelvaro::cli {
 namespace {
 
-struct Damage {
-  const char* sql;       // run on a fresh database with the sample chart saved
-  const char* column;    // the column the message must name
-  const char* command;   // "summary" or "convert"
-};
-
-constexpr Damage kDamages[] = {
-    {"UPDATE ChartSave SET LatitudeDegree = 99999", "LatitudeDegree 99999 is not from 0 to 90", "summary"},
-    {"UPDATE ChartSave SET LatitudeMinute = 60", "LatitudeMinute 60 is not from 0 to below 60", "summary"},
-    {"UPDATE ChartSave SET LongitudeDegree = 'far'", "LongitudeDegree is not a number", "summary"},
-    {"UPDATE ChartSave SET LongitudeDegree = 180, LongitudeMinute = 1", "LongitudeMinute 1 takes the place beyond 180",
-     "summary"},
-    {"UPDATE TimeZone SET TimeDifference = 15", "TimeDifference 15 is not from 0 to 14", "summary"},
-    {"UPDATE City_Master SET LatitudeDegree = 91 WHERE CityName = 'Hyderabad (A.P)'",
-     "LatitudeDegree 91 is not from 0 to 90", "convert"},
-    {"UPDATE TimeZone SET TimeDifference = '5 1/2'", "TimeDifference is not a number", "convert"},
-};
-
+// The rows of tests/data/cli/stored_damage.txt: the damage, the words, the command.
 TEST(StoredValues, StoredPlaceOutOfRangeIsRefused) {
-  for (const Damage& d : kDamages) {
+  const auto rows = kelvaro::testing::TestDataTable("cli/stored_damage.txt");
+  ASSERT_EQ(rows.size(), 7u);
+  for (const auto& d : rows) {
+    ASSERT_EQ(d.size(), 3u);
+    SCOPED_TRACE(d[0]);
     store::testing::TempFolder folder;
     const std::string path = (folder / "DBMirvaneBasic.db").string();
     std::int64_t sno = 0;
@@ -44,15 +32,15 @@ TEST(StoredValues, StoredPlaceOutOfRangeIsRefused) {
       const auto india = store::CountryByName(db, "India")->id;
       sno = store::SaveChart(db, store::testing::SampleChartFields("Velnesh", india, store::ZonesOf(db, india).at(0).sno))
                 .id;
-      db.Write("damage", [&](SQLite::Database& c) { c.exec(d.sql); });
+      db.Write("damage", [&](SQLite::Database& c) { c.exec(d[0]); });
     }
     const Outcome run =
-        std::string(d.command) == "summary"
+        d[2] == "summary"
             ? RunTool({"summary", "--chart", std::to_string(sno), "--database", path})
             : RunTool({"convert", "to-ghati", "--date", "14/07/1965", "--time", "14:15", "--city", "Hyderabad (A.P)",
                        "--country", "India", "--database", path});
-    EXPECT_EQ(run.status, kExitBadInput) << d.sql << "\n" << run.out;
-    EXPECT_NE(run.err.find(d.column), std::string::npos) << d.sql << "\n" << run.err;
+    EXPECT_EQ(run.status, kExitBadInput) << run.out;
+    EXPECT_NE(run.err.find(d[1]), std::string::npos) << run.err;
   }
 }
 
