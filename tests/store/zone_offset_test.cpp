@@ -2,59 +2,31 @@
 // transitions that `zdump -v ZONE` prints for the same database.
 #include <gtest/gtest.h>
 
+#include <sstream>
 #include <stdexcept>
 
 #include "store/system_zone_rules.h"
+#include "support/test_data.h"
 
 namespace kelvaro::store {
 namespace {
 
-struct Case {
-  const char* name;
-  const char* zone;
-  LocalClockTime time;
-  Fold fold;
-  int offsetSeconds;
-  const char* reason;
-  OffsetKind kind;
-};
-
-// Every expected offset is zdump's gmtoff for the period, except local mean
-// time, which is the birth's longitude times 240 seconds a degree.
+// The rows of tests/data/store/zone_offsets.txt.
 TEST(SystemZoneRules, OffsetsMatchZdump) {
-  const Case cases[] = {
-      {"Kolkata war time", "Asia/Kolkata", {1943, 7, 14, 12, 0, 88.37}, Fold::Earlier, 23400, "war time",
-       OffsetKind::Daylight},
-      // The system database keeps no Bombay time: Mumbai in 1950 is on IST.
-      {"Mumbai 1950", "Asia/Kolkata", {1950, 6, 1, 10, 0, 72.88}, Fold::Earlier, 19800, "standard time",
-       OffsetKind::Standard},
-      {"New York war time", "America/New_York", {1943, 1, 15, 12, 0, -74.0}, Fold::Earlier, -14400, "war time",
-       OffsetKind::Daylight},
-      {"London double summer time", "Europe/London", {1943, 7, 1, 12, 0, -0.13}, Fold::Earlier, 7200,
-       "double summer time", OffsetKind::Daylight},
-      {"London war winter", "Europe/London", {1943, 1, 15, 12, 0, -0.13}, Fold::Earlier, 3600, "war time",
-       OffsetKind::Daylight},
-      {"Sydney January", "Australia/Sydney", {2020, 1, 15, 12, 0, 151.2}, Fold::Earlier, 39600, "summer time",
-       OffsetKind::Daylight},
-      // Albany, 73 45 W, before the railways' standard time of 1883: its own
-      // mean time, not New York's (-4:56:02).
-      {"Albany 1880 local mean time", "America/New_York", {1880, 3, 1, 9, 0, -73.75}, Fold::Earlier, -17700,
-       "local mean time", OffsetKind::LocalMeanTime},
-      {"New York last LMT minute", "America/New_York", {1883, 11, 18, 11, 55, -74.0}, Fold::Earlier, -17760,
-       "local mean time", OffsetKind::LocalMeanTime},
-      {"Doubled hour, later", "America/New_York", {2020, 11, 1, 1, 30, -74.0}, Fold::Later, -18000,
-       "standard time", OffsetKind::Standard},
-      {"After the data's release", "America/New_York", {2999, 7, 4, 12, 0, -74.0}, Fold::Earlier, -14400,
-       "summer time", OffsetKind::Daylight},
-  };
+  const char* kinds[] = {"standard", "daylight", "local mean time"};
+  const auto rows = kelvaro::testing::TestDataTable("store/zone_offsets.txt");
+  ASSERT_EQ(rows.size(), 10u);
   const SystemZoneRules rules;
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.name);
-    const ClockOffset o = rules.OffsetAt(c.zone, c.time, c.fold);
-    EXPECT_EQ(o.offsetSeconds, c.offsetSeconds);
-    EXPECT_EQ(o.reason, c.reason);
-    EXPECT_EQ(o.kind, c.kind);
-    EXPECT_EQ(o.zoneId, c.zone);
+  for (const auto& row : rows) {
+    ASSERT_EQ(row.size(), 7u);
+    SCOPED_TRACE(row[0]);
+    LocalClockTime t;
+    std::istringstream(row[2]) >> t.year >> t.month >> t.day >> t.hour >> t.minute >> t.longitudeEast;
+    const ClockOffset o = rules.OffsetAt(row[1], t, row[3] == "later" ? Fold::Later : Fold::Earlier);
+    EXPECT_EQ(o.offsetSeconds, std::stoi(row[4]));
+    EXPECT_EQ(o.reason, row[5]);
+    EXPECT_EQ(kinds[static_cast<int>(o.kind)], row[6]);
+    EXPECT_EQ(o.zoneId, row[1]);
   }
 }
 
