@@ -1,7 +1,5 @@
 // The birth form's clock offset from the IANA rules at its date, clock and
-// longitude, and the user's word over them. The offsets are the tz
-// database's as zdump -v prints them; the local mean time is the longitude at
-// 4 minutes a degree (78 E 30 gives 5:14, not Kolkata's 5:53:28).
+// longitude, and the user's word over them.
 #include "horoscope/birth_offset.h"
 
 #include <gtest/gtest.h>
@@ -10,61 +8,35 @@
 
 #include "store/system_zone_rules.h"
 #include "support/sample_birth_form.h"
+#include "support/test_data.h"
 
 namespace kelvaro {
 namespace {
 
-BirthFormFields Form(const char* day, const char* month, const char* year, const char* hour, bool pm, double lon,
-                     const char* ew) {
+BirthFormFields Form(const std::string& day, const std::string& month, const std::string& year,
+                     const std::string& hour, bool pm, double lon, const std::string& ew) {
   BirthFormFields f = testing::SampleBirthForm();
   f.day = day, f.month = month, f.year = year, f.hour = hour, f.minute = "30", f.pm = pm;
   f.lonDeg = lon, f.lonMin = 0, f.lonEW = ew;
   return f;
 }
 
+// The rows of tests/data/horoscope/birth_offsets.txt.
 TEST(BirthOffset, RulesClockChangesAndTheUsersWord) {
-  const BirthFormFields war = Form("14", "Jul", "1943", "02", true, 88, "E");
-  const BirthFormFields gap = Form("10", "Mar", "2024", "02", false, 74, "W");
-  const BirthFormFields twice = Form("03", "Nov", "2024", "01", false, 74, "W");
-  BirthFormFields halfTyped = war;
-  halfTyped.day.clear();
-  struct Case {
-    const char* name;
-    BirthFormFields form;
-    const char* zone;
-    bool overruled;
-    Fold fold;
-    double timeDiff;
-    const char* ew;
-    const char* line;  // the start of it
-    bool nonexistent = false, ambiguous = false;
-  } cases[] = {
-      {"war time", war, "Asia/Kolkata", false, Fold::Earlier, 6.5, "E", "Asia/Kolkata: +6:30 on 14/07/1943 (war time)"},
-      {"clocks jumped", gap, "America/New_York", false, Fold::Earlier, 5, "W",
-       "America/New_York: -5:00 on 10/03/2024 (standard time); no such clock time there: the clocks went from 02:00 "
-       "to 03:00", true, false},
-      {"twice, earlier", twice, "America/New_York", false, Fold::Earlier, 4, "W",
-       "America/New_York: -4:00 on 03/11/2024 (summer time); this clock time happened twice", false, true},
-      {"twice, later", twice, "America/New_York", false, Fold::Later, 5, "W",
-       "America/New_York: -5:00 on 03/11/2024 (standard time); this clock time happened twice", false, true},
-      {"before standard time", Form("01", "Jan", "1850", "12", true, 78.5, "E"), "Asia/Kolkata", false,
-       Fold::Earlier, 5 + 14 / 60.0, "E", "Asia/Kolkata: +5:14 on 01/01/1850 (local mean time)"},
-      {"overruled", war, "Asia/Kolkata", true, Fold::Earlier, 5.5, "E",
-       "Asia/Kolkata: +6:30 on 14/07/1943 (war time); overruled by the user: 5.5 E"},
-      {"no zone id", war, "", false, Fold::Earlier, 5.5, "E", ""},
-      {"unknown zone", war, "Asia/Hyderabad", false, Fold::Earlier, 5.5, "E", ""},
-      {"half typed", halfTyped, "Asia/Kolkata", false, Fold::Earlier, 5.5, "E",
-       "Asia/Kolkata: waiting for the date and time"},
-  };
+  const auto rows = testing::TestDataTable("horoscope/birth_offsets.txt");
+  ASSERT_EQ(rows.size(), 9u);
   const store::SystemZoneRules rules;
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.name);
-    const OffsetDecision d = DecideBirthOffset(c.form, c.zone, c.overruled, c.fold, rules);
-    EXPECT_NEAR(d.timeDiff, c.timeDiff, 1e-9);
-    EXPECT_EQ(d.timeDiffEW, c.ew);
-    EXPECT_EQ(d.line.substr(0, std::string(c.line).size()), c.line);
-    EXPECT_EQ(d.Nonexistent(), c.nonexistent);
-    EXPECT_EQ(d.Ambiguous(), c.ambiguous);
+  for (const auto& r : rows) {
+    ASSERT_EQ(r.size(), 15u);
+    SCOPED_TRACE(r[0]);
+    const BirthFormFields form = Form(r[1], r[2], r[3], r[4], r[5] == "PM", std::stod(r[6]), r[7]);
+    const Fold fold = r[10] == "later" ? Fold::Later : Fold::Earlier;
+    const OffsetDecision d = DecideBirthOffset(form, r[8], r[9] == "user", fold, rules);
+    EXPECT_NEAR(d.timeDiff, std::stod(r[11]), 1e-9);
+    EXPECT_EQ(d.timeDiffEW, r[12]);
+    EXPECT_EQ(d.line.substr(0, r[13].size()), r[13]);
+    EXPECT_EQ(d.Nonexistent(), r[14] == "nonexistent");
+    EXPECT_EQ(d.Ambiguous(), r[14] == "ambiguous");
     EXPECT_EQ(d.note, d.rules ? d.line : "");
   }
 }
