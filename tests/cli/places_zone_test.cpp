@@ -3,9 +3,11 @@
 
 #include <memory>
 #include <nlohmann/json.hpp>
+#include <sstream>
 
 #include "../store/store_test_support.h"
 #include "run_tool.h"
+#include "support/test_data.h"
 
 namespace kelvaro::cli {
 namespace {
@@ -29,44 +31,25 @@ class PlacesAndZones : public ::testing::Test {
 std::unique_ptr<store::testing::TempFolder> PlacesAndZones::folder_;
 std::string PlacesAndZones::database_;
 
-// The offsets are zdump's for the system database (see the store's tests).
+// The rows of tests/data/cli/zone_json.txt.
 TEST_F(PlacesAndZones, ZoneJson) {
-  struct Case {
-    std::vector<std::string> place;
-    const char* date;
-    const char* time;
-    double hours;
-    const char* tz;
-    const char* kind;
-    const char* abbreviation;
-    bool ambiguous, nonexistent;
-  };
-  const Case cases[] = {
-      {{"--city", "Kolkata", "--country", "India"}, "14/07/1943", "12:00", 6.5, "6.5E", "daylight", "+0630", false,
-       false},
-      {{"--city", "London", "--country", "Britain (UK)"}, "01/07/1943", "12:00", 2, "2E", "daylight", "BDST", false,
-       false},
-      {{"--city", "New York City", "--country", "United States"}, "08/03/2020", "02:30", -5, "5W", "standard", "EST",
-       false, true},
-      {{"--city", "New York City", "--country", "United States"}, "01/11/2020", "01:30", -4, "4W", "daylight", "EDT",
-       true, false},
-      // Before 1854 Kolkata kept local mean time; at 78 30 E that is 5:14.
-      {{"--zone-id", "Asia/Kolkata", "--lat", "17N20", "--lon", "78E30"}, "14/07/1850", "12:00", 5.0 + 14.0 / 60,
-       "5.2333E", "local mean time", "LMT", false, false},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(std::string(c.date) + " " + c.place[1]);
-    std::vector<std::string> args = {"zone", "--date", c.date, "--time", c.time, "--json"};
-    args.insert(args.end(), c.place.begin(), c.place.end());
+  const auto rows = kelvaro::testing::TestDataTable("cli/zone_json.txt");
+  ASSERT_EQ(rows.size(), 5u);
+  for (const auto& c : rows) {
+    ASSERT_EQ(c.size(), 8u);
+    SCOPED_TRACE(c[1] + " " + c[0]);
+    std::vector<std::string> args = {"zone", "--date", c[1], "--time", c[2], "--json"};
+    std::istringstream place(c[0]);
+    for (std::string flag; std::getline(place, flag, ';');) args.push_back(flag);
     const Outcome r = Run(args);
     ASSERT_EQ(r.status, kExitOk) << r.err;
     const auto j = nlohmann::json::parse(r.out);
-    EXPECT_NEAR(j["offset_hours"].get<double>(), c.hours, 1e-9);
-    EXPECT_EQ(j["tz"], c.tz);
-    EXPECT_EQ(j["kind"], c.kind);
-    EXPECT_EQ(j["abbreviation"], c.abbreviation);
-    EXPECT_EQ(j["ambiguous"], c.ambiguous);
-    EXPECT_EQ(j["nonexistent"], c.nonexistent);
+    EXPECT_NEAR(j["offset_hours"].get<double>(), std::stod(c[3]), 1e-9);
+    EXPECT_EQ(j["tz"], c[4]);
+    EXPECT_EQ(j["kind"], c[5]);
+    EXPECT_EQ(j["abbreviation"], c[6]);
+    EXPECT_EQ(j["ambiguous"], c[7] == "ambiguous");
+    EXPECT_EQ(j["nonexistent"], c[7] == "nonexistent");
   }
 }
 
