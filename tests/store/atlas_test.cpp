@@ -13,6 +13,7 @@
 #include "store/schema.h"
 #include "store/system_zone_rules.h"
 #include "store_test_support.h"
+#include "support/test_data.h"
 
 namespace kelvaro::store {
 namespace {
@@ -68,31 +69,19 @@ TEST_F(Atlas, EveryZoneIsOneTheSystemKnows) {
 }
 
 TEST_F(Atlas, SearchFindsNamesakesByRegionAndRanksThem) {
-  struct Case {
-    const char* typed;
-    const char* country;  // nullptr: every country
-    const char* firstLabel;
-    const char* firstZone;
-  };
-  const Case cases[] = {
-      {"Hyderabad", nullptr, "Hyderabad, Telangana", "Asia/Kolkata"},
-      {"hyderabad", "Pakistan", "Hyderabad, Sindh", "Asia/Karachi"},
-      {"Hyderabad (", "India", "Hyderabad (A.P)", "Asia/Kolkata"},
-      {"sao pa", nullptr, "São Paulo, São Paulo", "America/Sao_Paulo"},
-      {"ZÜRICH", nullptr, "Zürich, Canton of Zurich", "Europe/Zurich"},
-      {"Lond", "Britain (UK)", "London, England", "Europe/London"},
-  };
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.typed);
-    const auto found =
-        index_.Find(c.typed, c.country ? std::optional<std::int64_t>(CountryId(c.country)) : std::nullopt);
+  const auto rows = kelvaro::testing::TestDataTable("store/atlas_search.txt");
+  ASSERT_EQ(rows.size(), 6u);
+  for (const auto& c : rows) {
+    ASSERT_EQ(c.size(), 4u);
+    SCOPED_TRACE(c[0]);
+    const auto found = index_.Find(c[0], c[1].empty() ? std::nullopt : std::optional(CountryId(c[1].c_str())));
     ASSERT_FALSE(found.empty());
-    EXPECT_EQ(found.front()->Label(), c.firstLabel);
-    EXPECT_EQ(found.front()->zoneId, c.firstZone);
+    EXPECT_EQ(found.front()->Label(), c[2]);
+    EXPECT_EQ(found.front()->zoneId, c[3]);
     for (const PlaceRecord* p : found) {
-      EXPECT_EQ(FoldForSearch(p->name).rfind(FoldForSearch(c.typed), 0), 0u) << p->name;
-      if (c.country) {
-        EXPECT_EQ(p->country, c.country);
+      EXPECT_EQ(FoldForSearch(p->name).rfind(FoldForSearch(c[0]), 0), 0u) << p->name;
+      if (!c[1].empty()) {
+        EXPECT_EQ(p->country, c[1]);
       }
     }
   }
