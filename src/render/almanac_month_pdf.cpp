@@ -1,8 +1,6 @@
 #include "render/almanac_month_pdf.h"
 
-#include <QBuffer>
 #include <QFontMetricsF>
-#include <QPageLayout>
 #include <QPdfWriter>
 
 #include "render/pdf_document.h"
@@ -12,7 +10,6 @@ namespace kelvaro::render {
 
 namespace {
 
-constexpr int kDotsPerInch = 600;
 constexpr double kPointsPerInch = 72;
 constexpr double kMarginPoints = 50;
 
@@ -64,20 +61,8 @@ int PaintAlmanacMonth(QPainter& painter, QPagedPaintDevice& device, const Almana
 }
 
 QByteArray AlmanacMonthPdf(const AlmanacMonthSheet& sheet, PaperSize paper) {
-  QByteArray bytes;
-  QBuffer buffer(&bytes);
-  buffer.open(QIODevice::WriteOnly);
-  QPdfWriter writer(&buffer);
-  writer.setResolution(kDotsPerInch);
-  writer.setPageLayout(QPageLayout(QPageSize(paper == PaperSize::Letter ? QPageSize::Letter : QPageSize::A4),
-                                   QPageLayout::Portrait, QMarginsF(0, 0, 0, 0)));
-  writer.setTitle(Footer(sheet));
-  writer.setCreator(QStringLiteral("Kelvaro"));
-  QPainter painter(&writer);
-  painter.setRenderHint(QPainter::Antialiasing);
-  PaintAlmanacMonth(painter, writer, sheet);
-  painter.end();
-  return bytes;
+  return PdfBytes(paper, Footer(sheet),
+                  [&](QPainter& painter, QPdfWriter& writer) { PaintAlmanacMonth(painter, writer, sheet); });
 }
 
 void WriteAlmanacMonthPdf(const std::filesystem::path& path, const AlmanacMonthSheet& sheet, PaperSize paper) {

@@ -272,7 +272,7 @@ std::optional<PaperSize> PaperSizeOf(std::string_view name) {
 
 const char* PaperSizeName(PaperSize paper) { return paper == PaperSize::Letter ? "Letter" : "A4"; }
 
-QByteArray PdfReport(const ReportInput& input, PaperSize paper) {
+QByteArray PdfBytes(PaperSize paper, const QString& title, const std::function<void(QPainter&, QPdfWriter&)>& draw) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
@@ -280,20 +280,26 @@ QByteArray PdfReport(const ReportInput& input, PaperSize paper) {
   writer.setResolution(kDotsPerInch);
   writer.setPageLayout(QPageLayout(QPageSize(paper == PaperSize::Letter ? QPageSize::Letter : QPageSize::A4),
                                    QPageLayout::Portrait, QMarginsF(0, 0, 0, 0)));
-  writer.setTitle(Footer(input));
+  writer.setTitle(title);
   writer.setCreator(QStringLiteral("Kelvaro"));
-  const PageFrame frame{QSizeF(writer.width(), writer.height()), kDotsPerInch / kPointsPerInch, kMarginPoints};
-  // The first run only counts the pages, for the footers of the second.
-  PdfDocument measure(nullptr, nullptr, frame, Footer(input), 0);
-  Compose(measure, input);
-  const int pages = measure.Finish();
   QPainter painter(&writer);
   painter.setRenderHint(QPainter::Antialiasing);
-  PdfDocument doc(&painter, &writer, frame, Footer(input), pages);
-  Compose(doc, input);
-  doc.Finish();
+  draw(painter, writer);
   painter.end();
   return bytes;
+}
+
+QByteArray PdfReport(const ReportInput& input, PaperSize paper) {
+  return PdfBytes(paper, Footer(input), [&](QPainter& painter, QPdfWriter& writer) {
+    const PageFrame frame{QSizeF(writer.width(), writer.height()), kDotsPerInch / kPointsPerInch, kMarginPoints};
+    // The first run only counts the pages, for the footers of the second.
+    PdfDocument measure(nullptr, nullptr, frame, Footer(input), 0);
+    Compose(measure, input);
+    const int pages = measure.Finish();
+    PdfDocument doc(&painter, &writer, frame, Footer(input), pages);
+    Compose(doc, input);
+    doc.Finish();
+  });
 }
 
 void WritePdfReport(const std::filesystem::path& path, const ReportInput& input, PaperSize paper) {

@@ -6,7 +6,12 @@
 // same models as the text report and computes nothing of its own. Needs a
 // QGuiApplication (for the fonts).
 #include <QByteArray>
+#include <QString>
+
+class QPainter;
+class QPdfWriter;
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string_view>
 
@@ -21,6 +26,10 @@ std::optional<PaperSize> PaperSizeOf(std::string_view name);
 const char* PaperSizeName(PaperSize paper);
 
 QByteArray PdfReport(const ReportInput& input, PaperSize paper);
+
+// A PDF in memory: a writer at 600 dots an inch on the paper, portrait, no
+// margins of its own, titled; `draw` paints it (the writer is the device).
+QByteArray PdfBytes(PaperSize paper, const QString& title, const std::function<void(QPainter&, QPdfWriter&)>& draw);
 
 // PdfReport written atomically to `path`: a failed write leaves an earlier
 // file of that name as it was. Raises ReportWriteError.
