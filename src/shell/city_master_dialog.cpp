@@ -54,28 +54,7 @@ CityMasterDialog::CityMasterDialog(store::Database& db, QSettings* settings, QWi
   tabs_->addTab(BuildAddTab(), tr("Add City"));
   tabs_->addTab(BuildEditTab(), tr("Edit City"));
   tabs_->addTab(BuildViewTab(), tr("View City"));
-  auto* close = new QPushButton(tr("&Cancel"), this);
-  close->setObjectName("cmdAddCLose1");
-  close->setAutoDefault(false);
-  connect(close, &QPushButton::clicked, this, &QDialog::reject);
-  // A country chosen on one tab comes along to a tab that has none chosen.
-  connect(tabs_, &QTabWidget::currentChanged, this, [this](int tab) {
-    QComboBox* country = CountryOfTab(tab);
-    if (lastCountry_ != 0 && ChosenId(country) == 0) ChooseItemById(country, lastCountry_);
-  });
-  for (QComboBox* c : {add_.country, edit_.country, viewCountry_}) {
-    connect(c, &QComboBox::activated, this, [this, c] { lastCountry_ = ChosenId(c); });
-  }
-  auto* layout = new QVBoxLayout(this);
-  layout->addWidget(tabs_);
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch(1);
-  buttons->addWidget(close);
-  layout->addLayout(buttons);
-
-  std::vector<store::CountryRow> countries;
-  Guarded([&] { countries = store::ListCountries(db_); });
-  for (QComboBox* c : {add_.country, edit_.country, viewCountry_}) FillCountryCombo(c, countries);
+  LayOutCountryTabs(tabs_, {add_.country, edit_.country, viewCountry_}, "cmdAddCLose1");
   RestoreSize({720, 560});
   add_.country->setFocus();
 }
@@ -180,11 +159,6 @@ QWidget* CityMasterDialog::BuildViewTab() {
   connect(viewCountry_, &QComboBox::activated, this, [this] { ShowCities(viewCountry_, viewGrid_, &viewCities_); });
   connect(find, &QPushButton::clicked, this, &CityMasterDialog::Find);
   return tab;
-}
-
-QComboBox* CityMasterDialog::CountryOfTab(int tab) const {
-  QComboBox* countries[] = {add_.country, edit_.country, viewCountry_};
-  return countries[tab];
 }
 
 void CityMasterDialog::StartWithCountry(std::int64_t countryId) {

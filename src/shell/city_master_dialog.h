@@ -48,10 +48,8 @@ class CityMasterDialog : public MasterDialog {
   void ChooseEditCountry();
   void ChooseEditCity();
 
-  QComboBox* CountryOfTab(int tab) const;
 
   QTabWidget* tabs_;
-  std::int64_t lastCountry_ = 0;  // the country chosen last, on any tab
   PlaceFields add_;
   QPushButton* save_ = nullptr;
   GridView* addGrid_ = nullptr;

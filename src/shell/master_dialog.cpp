@@ -1,11 +1,14 @@
 #include "shell/master_dialog.h"
 
 #include <QAbstractButton>
+#include <QBoxLayout>
 #include <QComboBox>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSettings>
+#include <QTabWidget>
 
 #include "shell/form_keys.h"
 #include "shell/grid_view.h"
@@ -41,6 +44,31 @@ MasterDialog::MasterDialog(store::Database& db, QSettings* settings, const char*
   setObjectName(objectName);
   setModal(true);
   setAttribute(Qt::WA_DeleteOnClose);
+}
+
+void MasterDialog::LayOutCountryTabs(QTabWidget* tabs, const std::vector<QComboBox*>& countries,
+                                     const char* closeName) {
+  auto* close = new QPushButton(tr("&Cancel"), this);
+  close->setObjectName(closeName);
+  close->setAutoDefault(false);
+  connect(close, &QPushButton::clicked, this, &QDialog::reject);
+  connect(tabs, &QTabWidget::currentChanged, this, [this, countries](int tab) {
+    QComboBox* country = countries.at(static_cast<std::size_t>(tab));
+    if (lastCountry_ != 0 && ChosenId(country) == 0) ChooseItemById(country, lastCountry_);
+  });
+  for (QComboBox* c : countries) {
+    connect(c, &QComboBox::activated, this, [this, c] { lastCountry_ = ChosenId(c); });
+  }
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(tabs);
+  auto* buttons = new QHBoxLayout;
+  buttons->addStretch(1);
+  buttons->addWidget(close);
+  layout->addLayout(buttons);
+
+  std::vector<store::CountryRow> rows;
+  Guarded([&] { rows = store::ListCountries(db_); });
+  for (QComboBox* c : countries) FillCountryCombo(c, rows);
 }
 
 void MasterDialog::RestoreSize(QSize fallback) {

@@ -16,6 +16,7 @@ class QAbstractButton;
 class QComboBox;
 class QLineEdit;
 class QSettings;
+class QTabWidget;
 
 namespace kelvaro {
 class Grid;
@@ -41,6 +42,11 @@ class MasterDialog : public QDialog {
   // Called once the controls stand, so that the kept size wins over the
   // layout's own.
   void RestoreSize(QSize fallback);
+  // The city and zone masters: the tabs above a row that holds only the
+  // close button (`closeName`, "&Cancel"); every country list (one a tab, in
+  // tab order) filled; a country chosen on one tab comes along to a tab that
+  // has none chosen.
+  void LayOutCountryTabs(QTabWidget* tabs, const std::vector<QComboBox*>& countries, const char* closeName);
   // A validation message: an information box titled with the caption, then
   // the focus on the field it names.
   void ShowFailure(const store::FieldMessage& failure);
@@ -65,6 +71,7 @@ class MasterDialog : public QDialog {
 
   QSettings* settings_;
   QString caption_;
+  std::int64_t lastCountry_ = 0;  // the country chosen last, on any tab
 };
 
 // A country list of the masters: editable, with the type-ahead, each item

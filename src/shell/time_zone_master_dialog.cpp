@@ -33,24 +33,7 @@ TimeZoneMasterDialog::TimeZoneMasterDialog(store::Database& db, QSettings* setti
   tabs_->addTab(BuildZoneTab(add_, false, save_, addGrid_), tr("Add Time Zone"));
   tabs_->addTab(BuildZoneTab(edit_, true, update_, editGrid_), tr("Edit Time Zone"));
   tabs_->addTab(BuildViewTab(), tr("View  Time Zone"));
-  auto* close = new QPushButton(tr("&Cancel"), this);
-  close->setObjectName("Command1");
-  close->setAutoDefault(false);
-  connect(close, &QPushButton::clicked, this, &QDialog::reject);
-  // A country chosen on one tab comes along to a tab that has none chosen.
-  connect(tabs_, &QTabWidget::currentChanged, this, [this](int tab) {
-    QComboBox* country = CountryOfTab(tab);
-    if (lastCountry_ != 0 && ChosenId(country) == 0) ChooseItemById(country, lastCountry_);
-  });
-  for (QComboBox* c : {add_.country, edit_.country, viewCountry_}) {
-    connect(c, &QComboBox::activated, this, [this, c] { lastCountry_ = ChosenId(c); });
-  }
-  auto* layout = new QVBoxLayout(this);
-  layout->addWidget(tabs_);
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch(1);
-  buttons->addWidget(close);
-  layout->addLayout(buttons);
+  LayOutCountryTabs(tabs_, {add_.country, edit_.country, viewCountry_}, "Command1");
 
   connect(add_.country, &QComboBox::activated, this, [this] { ShowZones(add_.country, addGrid_, nullptr); });
   connect(edit_.country, &QComboBox::activated, this, &TimeZoneMasterDialog::ChooseEditCountry);
@@ -59,9 +42,6 @@ TimeZoneMasterDialog::TimeZoneMasterDialog(store::Database& db, QSettings* setti
   connect(save_, &QPushButton::clicked, this, &TimeZoneMasterDialog::Add);
   connect(update_, &QPushButton::clicked, this, &TimeZoneMasterDialog::Update);
 
-  std::vector<store::CountryRow> countries;
-  Guarded([&] { countries = store::ListCountries(db_); });
-  for (QComboBox* c : {add_.country, edit_.country, viewCountry_}) FillCountryCombo(c, countries);
   RestoreSize({620, 520});
   add_.country->setFocus();
 }
@@ -119,11 +99,6 @@ QWidget* TimeZoneMasterDialog::BuildViewTab() {
   form->setColumnStretch(1, 1);
   InstallEnterOrder({viewCountry_, viewGrid_});
   return tab;
-}
-
-QComboBox* TimeZoneMasterDialog::CountryOfTab(int tab) const {
-  QComboBox* countries[] = {add_.country, edit_.country, viewCountry_};
-  return countries[tab];
 }
 
 void TimeZoneMasterDialog::StartWithCountry(std::int64_t countryId) {

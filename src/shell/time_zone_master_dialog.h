@@ -44,10 +44,8 @@ class TimeZoneMasterDialog : public MasterDialog {
   // The notice of what is stored, then the message of the write.
   void Report(const store::WriteResult& result);
 
-  QComboBox* CountryOfTab(int tab) const;
 
   QTabWidget* tabs_;
-  std::int64_t lastCountry_ = 0;  // the country chosen last, on any tab
   ZoneFields add_;
   QPushButton* save_ = nullptr;
   GridView* addGrid_ = nullptr;
